@@ -1,0 +1,36 @@
+# What identifies the build, as it stands in the module records.
+set( SIPSN_PRODUCT_NAME "corvanetr" CACHE STRING "Product name" )
+set( SIPSN_PRODUCT_TRACE_NAME "corvane trace" CACHE STRING "Product name in traces" )
+set( SIPSN_PRODUCT_VERSION "4.10.30" CACHE STRING "Product version, major.minor.patch" )
+set( SIPSN_COMPANY_NAME "unnamed" CACHE STRING "Company name" )
+set( SIPSN_RIGHTS_NOTICE "All rights with their holders" CACHE STRING "Rights notice, one line" )
+
+if( CMAKE_SIZEOF_VOID_P EQUAL 8 )
+    set( bits 64 )
+else()
+    set( bits 32 )
+endif()
+if( CMAKE_BUILD_TYPE STREQUAL "Debug" )
+    set( kind Debug )
+else()
+    set( kind Release )
+endif()
+if( CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64|i.86" )
+    set( processor x86 )
+else()
+    set( processor ${CMAKE_SYSTEM_PROCESSOR} )
+endif()
+set( SIPSN_PLATFORM "${CMAKE_SYSTEM_NAME}, ${processor} (${bits} bit), ${kind}" CACHE STRING "Platform and build kind" )
+
+# Kept from the first time that the folder is configured, so that later runs do not build everything anew.
+# string( TIMESTAMP ) honours SOURCE_DATE_EPOCH, so that builds reproduce.
+if( NOT SIPSN_BUILD_TIME )
+    string( TIMESTAMP now "UTC %Y-%m-%d %H:%M:%S (%A)" UTC )
+    set( SIPSN_BUILD_TIME "${now}" CACHE STRING "Build time" FORCE )
+endif()
+
+string( REPLACE "." ";" version_parts "${SIPSN_PRODUCT_VERSION}" )
+list( GET version_parts 0 product_major )
+list( GET version_parts 1 product_minor )
+list( GET version_parts 2 product_patch )
+configure_file( ${CMAKE_SOURCE_DIR}/cmake/product.h.in ${CMAKE_BINARY_DIR}/generated/product.h @ONLY )

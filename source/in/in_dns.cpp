@@ -1,0 +1,212 @@
+// Domain names: label by label, so that one in Unicode does not change the others, and without libidn2 where all is
+// ASCII.
+#include "in_dns.h"
+
+#include "in_internal.h"
+#include "iri/iri_internal.h"
+
+#include <algorithm>
+#include <array>
+#include <idn2.h>
+#include <span>
+#include <string_view>
+
+namespace {
+
+using Label = std::span< const PbChar >;
+
+constexpr int64_t nameLimit  = 253; // RFC 1034 section 3.1: 255 octets, of which two are no characters
+constexpr size_t  labelLimit = 63;
+
+enum class LabelKind
+{
+    Invalid,
+    Ascii,
+    Ace,
+    Unicode
+};
+
+constexpr std::array< bool, 128 > isLabelChar = [] { // letters, digits and the hyphen
+    std::array< bool, 128 > table{};
+    for( char ch : std::string_view{ "-0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ" } )
+        table[ size_t( ch ) ] = true;
+    return table;
+}();
+
+// "xn--" and what should be Punycode, but need not.
+bool HasAcePrefix( Label label )
+{
+    return label.size() > 4 && ( label[ 0 ] | 0x20 ) == 'x' && ( label[ 1 ] | 0x20 ) == 'n' && label[ 2 ] == '-' &&
+           label[ 3 ] == '-';
+}
+
+// Of a label in Unicode this says only that its ASCII characters are good: libidn2 judges the rest.
+LabelKind KindOf( Label label )
+{
+    if( label.empty() || label.size() > labelLimit || label.front() == '-' || label.back() == '-' )
+        return LabelKind::Invalid;
+    bool isAscii = true;
+    for( PbChar ch : label ) {
+        if( uint32_t( ch ) >= isLabelChar.size() )
+            isAscii = false;
+        else if( !isLabelChar[ size_t( ch ) ] )
+            return LabelKind::Invalid;
+    }
+    if( !isAscii ) return LabelKind::Unicode;
+    return HasAcePrefix( label ) ? LabelKind::Ace : LabelKind::Ascii;
+}
+
+// Hands each label to `visit` until that says false; whether it never did. A dot at the end begins no label.
+template< class Visit > bool ForEachLabel( PbString *name, Visit visit )
+{
+    const PbChar *at  = name->chs;
+    const PbChar *end = name->chs + name->length;
+    do {
+        const PbChar *dot = std::find( at, end, '.' );
+        if( !visit( Label{ at, size_t( dot - at ) } ) ) return false;
+        at = dot == end ? end : dot + 1;
+    } while( at != end );
+    return true;
+}
+
+// A new name from what `convert` makes of each label; it appends to the new name and says whether it could. Null when
+// it could not. The dots are kept.
+template< class Convert > PbString *ConvertLabels( PbString *name, Convert convert )
+{
+    const PbChar *end = name->chs + name->length;
+    pb::Ref       converted{ pbStringCreate() };
+    const bool    ok = ForEachLabel( name, [ & ]( Label label ) {
+        if( !convert( converted.Slot(), label ) ) return false;
+        if( label.data() + label.size() != end ) pbStringAppendChar( converted.Slot(), '.' );
+        return true;
+    } );
+    return ok ? converted.Detach() : nullptr;
+}
+
+void Append( PbString **string, Label label ) { pbStringAppendChars( string, label.data(), int64_t( label.size() ) ); }
+
+bool IsLengthOk( PbString *name )
+{
+    return name->length > 0 && name->length - ( name->chs[ name->length - 1 ] == '.' ) <= nameLimit;
+}
+
+bool IsBracketedV6( PbString *name )
+{
+    const int64_t length = name->length;
+    return length > 2 && name->chs[ 0 ] == '[' && name->chs[ length - 1 ] == ']' &&
+           iri___SkipIpV6Address( name->chs + 1, length - 2 ) == length - 2;
+}
+
+// What the labels of a name are, as far as that can be said without libidn2. A dotted quad is labels of digits.
+struct Survey
+{
+    bool ok         = false;
+    bool hasAce     = false;
+    bool hasUnicode = false;
+};
+
+Survey SurveyName( PbString *name )
+{
+    if( !IsLengthOk( name ) ) return {};
+    if( IsBracketedV6( name ) ) return { .ok = true };
+
+    Survey survey;
+    survey.ok = ForEachLabel( name, [ & ]( Label label ) {
+        const LabelKind kind = KindOf( label );
+        survey.hasAce |= kind == LabelKind::Ace;
+        survey.hasUnicode |= kind == LabelKind::Unicode;
+        return kind != LabelKind::Invalid;
+    } );
+    return survey;
+}
+
+// Whether libidn2 succeeded. What it cannot convert is the text's fault, unless memory was exhausted.
+bool IsConverted( int status )
+{
+    PB_ASSERT( status != IDN2_MALLOC );
+    return status == IDN2_OK;
+}
+
+// Appends the ASCII form of a label in Unicode; false when it has none. Lower case and NFC come first, as RFC 5895
+// section 2 has it; beyond these nothing is mapped, for what looks alike must not become alike.
+bool AppendAscii( PbString **string, Label label )
+{
+    pb::Ref lower{ pbStringCreateFromCharsCopy( label.data(), int64_t( label.size() ) ) };
+    pbStringToLower( lower.Slot() );
+
+    char      *text   = nullptr;
+    const int  status = idn2_to_ascii_4i2( reinterpret_cast< const uint32_t  *>( lower->chs ), size_t( lower->length ),
+                                           &text, IDN2_NFC_INPUT | IDN2_NO_TR46 );
+    const bool ok     = IsConverted( status );
+    if( ok ) pbStringAppendCstr( string, text, -1 );
+    idn2_free( text );
+    return ok;
+}
+
+// The name in ASCII, or null.
+PbString *TryMakeAscii( PbString *name )
+{
+    pb::Ref ascii{ ConvertLabels( name, []( PbString **string, Label label ) {
+        if( KindOf( label ) == LabelKind::Unicode ) return AppendAscii( string, label );
+        Append( string, label );
+        return true;
+    } ) };
+    if( !ascii ) return nullptr;
+    const Survey survey = SurveyName( ascii.Get() );
+    return survey.ok && !survey.hasUnicode ? ascii.Detach() : nullptr;
+}
+
+// Appends the Unicode form of an "xn--" label; false when there is none that converts back to the label.
+bool AppendUnicode( PbString **string, Label label )
+{
+    char lower[ labelLimit + 1 ] = {}; // RFC 5891 section 5.3
+    std::transform( label.begin(), label.end(), lower,
+                    []( PbChar ch ) { return char( ch >= 'A' && ch <= 'Z' ? ch + ( 'a' - 'A' ) : ch ); } );
+
+    uint32_t *text = nullptr;
+    bool      ok   = IsConverted( idn2_to_unicode_8z4z( lower, &text, IDN2_NO_TR46 ) );
+    if( ok ) {
+        const PbChar *chs = reinterpret_cast< const PbChar * >( text );
+        const Label   unicode{ chs, std::find( chs, chs + labelLimit + 1, 0 ) };
+        pb::Ref       back{ pbStringCreate() };
+        ok = KindOf( unicode ) == LabelKind::Unicode && AppendAscii( back.Slot(), unicode ) &&
+             pbStringEqualsCstr( back.Get(), lower, -1 );
+        if( ok ) Append( string, unicode );
+    }
+    idn2_free( text );
+    return ok;
+}
+
+} // namespace
+
+bool inDnsIdnaDomainNameOk( PbString *name )
+{
+    PB_ASSERT( name );
+    const Survey survey = SurveyName( name );
+    if( !survey.ok || !survey.hasUnicode ) return survey.ok;
+    return bool( pb::Ref{ TryMakeAscii( name ) } );
+}
+
+PbString *inDnsIdnaDomainNameToAscii( PbString *name )
+{
+    PB_ASSERT( name );
+    const Survey survey = SurveyName( name );
+    if( survey.ok && !survey.hasUnicode ) return pb::Retain( name );
+
+    PB_ASSERT( inDnsIdnaDomainNameOk( name ) );
+    return TryMakeAscii( name );
+}
+
+PbString *inDnsIdnaDomainNameToUnicode( PbString *name )
+{
+    PB_ASSERT( name );
+    const Survey survey = SurveyName( name );
+    if( survey.ok && !survey.hasAce && !survey.hasUnicode ) return pb::Retain( name );
+
+    PB_ASSERT( inDnsIdnaDomainNameOk( name ) );
+    if( !survey.hasAce ) return pb::Retain( name );
+    return ConvertLabels( name, []( PbString **string, Label label ) {
+        if( KindOf( label ) != LabelKind::Ace || !AppendUnicode( string, label ) ) Append( string, label );
+        return true;
+    } );
+}

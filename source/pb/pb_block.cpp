@@ -1,0 +1,50 @@
+// The memory of objects: what happens when a thread keeps no block of the size, or can keep no more.
+#include "pb_block.h"
+
+#if PB_KEEP_BLOCKS
+
+#include <algorithm>
+
+namespace pb {
+
+[[gnu::tls_model( "initial-exec" )]] constinit thread_local KeptBlocks keptBlocks{};
+
+namespace {
+
+// Frees what the thread kept when it ends; what is freed even later goes to the C library.
+struct Closer
+{
+    ~Closer()
+    {
+        for( uint32_t &room : keptBlocks.room ) room = 0;
+        for( KeptBlock *&first : keptBlocks.first )
+            while( first ) pbMemFree( std::exchange( first, first->next ) );
+    }
+};
+
+// Makes room in every class but 0, once in the life of a thread.
+void Open()
+{
+    static thread_local Closer closer;
+    static_cast< void >( &closer );
+    keptBlocks.opened = true;
+    std::fill( keptBlocks.room + 1, std::end( keptBlocks.room ), maxKeptPerClass );
+}
+
+} // namespace
+
+void *AllocateNewBlock( size_t blockClass, int64_t size )
+{
+    return pbMemAllocN( 1, blockClass == 0 ? size : int64_t( blockClass * blockGranule ) );
+}
+
+void FreeUnkeptBlock( void *block, uint32_t blockClass )
+{
+    if( blockClass == 0 || keptBlocks.opened ) return pbMemFree( block );
+    Open();
+    FreeBlock( block, blockClass );
+}
+
+} // namespace pb
+
+#endif
