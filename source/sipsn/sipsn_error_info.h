@@ -1,0 +1,28 @@
+/* SipsnErrorInfo: one error-uri of an Error-Info header field, RFC 3261 section 20.18.
+ *
+ *     error-uri = LAQUOT URI RAQUOT *( SEMI generic-param )
+ *
+ *     iri              an absolute IRI, a URI on the wire; never absent
+ *     generic params   never absent, may be empty
+ *
+ * Getters return a new reference. Setters replace *errorInfo by a private copy when it is shared. A null or invalid
+ * argument aborts. Values compare in the order above. */
+#ifndef SIPSN_ERROR_INFO_H
+#define SIPSN_ERROR_INFO_H
+
+#include "sipsn_generic_params.h"
+
+PB_BEGIN_DECLS
+
+PB_DECLARE_TYPE( SipsnErrorInfo, sipsnErrorInfo )
+
+PB_API SipsnErrorInfo *sipsnErrorInfoCreate( PbString *iri );
+
+PB_API PbString *sipsnErrorInfoIri( SipsnErrorInfo *errorInfo );
+PB_API void      sipsnErrorInfoSetIri( SipsnErrorInfo **errorInfo, PbString *iri );
+
+PB_API SipsnGenericParams *sipsnErrorInfoGenericParams( SipsnErrorInfo *errorInfo );
+PB_API void sipsnErrorInfoSetGenericParams( SipsnErrorInfo **errorInfo, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

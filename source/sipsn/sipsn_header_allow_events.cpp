@@ -1,0 +1,74 @@
+// SipsnHeaderAllowEvents: the Allow-Events header field, RFC 6665 section 8.2.2.
+#include "sipsn_header_allow_events.h"
+
+#include "sipsn_header_frame.h"
+#include "sipsn_header_internal.h"
+#include "sipsn_skip_internal.h"
+
+using sipsn::StringFrom;
+
+struct SipsnHeaderAllowEvents
+{
+    PbObj   obj;
+    PbDict *items; // each to itself
+
+    using Members = pb::Members< &SipsnHeaderAllowEvents::items >;
+};
+
+PbString *sipsn___PbsAllowEvents;
+
+static constexpr sipsn::Set< SipsnHeaderAllowEvents > shape{
+    .items = &SipsnHeaderAllowEvents::items,
+    .item  = sipsn___SkipEventType,
+};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents, SIPSN_HEADER_ALLOW_EVENTS, sipsn___PbsAllowEvents,
+                     shape )
+
+static PbString *Key( PbString *eventType )
+{
+    PB_ASSERT( sipsnEventTypeOk( eventType ) );
+    return pb::Retain( eventType );
+}
+SIPSN_DEFINE_SET( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents, EventTypes, EventType, eventType, Key )
+
+SipsnHeaderAllowEvents *sipsnHeaderAllowEventsCreate( void ) { return shape.Create(); }
+
+bool sipsnHeaderAllowEventsHasEventTypeCstr( SipsnHeaderAllowEvents *hdr, const char *eventType,
+                                             int64_t eventTypeLength )
+{
+    return sipsnHeaderAllowEventsHasEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+bool sipsnHeaderAllowEventsHasEventTypeWcstr( SipsnHeaderAllowEvents *hdr, const wchar_t *eventType,
+                                              int64_t eventTypeLength )
+{
+    return sipsnHeaderAllowEventsHasEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+void sipsnHeaderAllowEventsSetEventTypeCstr( SipsnHeaderAllowEvents **hdr, const char *eventType,
+                                             int64_t eventTypeLength )
+{
+    sipsnHeaderAllowEventsSetEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+void sipsnHeaderAllowEventsSetEventTypeWcstr( SipsnHeaderAllowEvents **hdr, const wchar_t *eventType,
+                                              int64_t eventTypeLength )
+{
+    sipsnHeaderAllowEventsSetEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+void sipsnHeaderAllowEventsDelEventTypeCstr( SipsnHeaderAllowEvents **hdr, const char *eventType,
+                                             int64_t eventTypeLength )
+{
+    sipsnHeaderAllowEventsDelEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+void sipsnHeaderAllowEventsDelEventTypeWcstr( SipsnHeaderAllowEvents **hdr, const wchar_t *eventType,
+                                              int64_t eventTypeLength )
+{
+    sipsnHeaderAllowEventsDelEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
+}
+
+void sipsn___HeaderAllowEventsStartup( void ) { sipsn::CreateName( sipsn___PbsAllowEvents, "Allow-Events" ); }
+void sipsn___HeaderAllowEventsShutdown( void ) { sipsn::DropName( sipsn___PbsAllowEvents ); }

@@ -1,0 +1,84 @@
+// SipsnHeaderContact: the Contact header field, RFC 3261 section 20.10.
+#include "sipsn_header_contact.h"
+
+#include "sipsn_header_frame.h"
+#include "sipsn_header_internal.h"
+#include "sipsn_skip_internal.h"
+
+struct SipsnHeaderContact
+{
+    PbObj     obj;
+    bool      starForm;
+    PbVector *items;
+
+    using Members = pb::Members< &SipsnHeaderContact::starForm, &SipsnHeaderContact::items >;
+};
+
+PbString *sipsn___PbsContact;
+
+static constexpr sipsn::List< SipsnHeaderContact > contacts{
+    .items   = &SipsnHeaderContact::items,
+    .item    = sipsn___SkipContact,
+    .noLines = sipsn::NoLines::givesNull,
+};
+
+// That list, or the line "*" instead.
+struct ContactShape
+{
+    SipsnHeaderContact *Create( bool starForm ) const
+    {
+        SipsnHeaderContact *hdr = contacts.Create();
+        hdr->starForm           = starForm;
+        return hdr;
+    }
+
+    SipsnHeaderContact *TryDecode( SipsnMessageHeader *header ) const
+    {
+        const int64_t count = sipsn::LineCount( header );
+        if( count == 0 ) return nullptr;
+        PbString     *line = sipsn::PeekLine( header, 0 );
+        sipsn::Cursor in{ line->chs, line->length };
+        if( !in.Take( sipsn___SkipStar ) ) return contacts.TryDecode( header );
+
+        if( !in.AtEnd() ) return nullptr;
+        for( int64_t at = 1; at < count; ++at )
+            if( sipsn::PeekLine( header, at )->length > 0 ) return nullptr;
+        return Create( true );
+    }
+
+    SipsnMessageHeader *Encode( SipsnHeaderContact *hdr, PbString *name ) const
+    {
+        if( !hdr->starForm || pbVectorLength( hdr->items ) > 0 ) return contacts.Encode( hdr, name );
+        return sipsn::CreateHeader( name, pbStringCreateFromCstr( "*", -1 ) );
+    }
+};
+
+static constexpr ContactShape shape{};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderContact, sipsnHeaderContact, SIPSN_HEADER_CONTACT, sipsn___PbsContact, shape )
+SIPSN_DEFINE_LIST( SipsnHeaderContact, sipsnHeaderContact, Contacts, Contact, SipsnContact, contact,
+                   sipsn___ContactEncode )
+
+SipsnHeaderContact *sipsnHeaderContactCreate( void ) { return shape.Create( false ); }
+
+bool sipsnHeaderContactIsStarForm( SipsnHeaderContact *hdr ) { return PB_GET( hdr, starForm ); }
+
+void sipsnHeaderContactSetStarForm( SipsnHeaderContact **hdr, bool starForm )
+{
+    sipsnHeaderContactClear( hdr );
+    ( *hdr )->starForm = starForm;
+}
+
+SipsnContact *sipsnHeaderContactTryDecodeContactAt( SipsnHeaderContact *hdr, int64_t index )
+{
+    return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___ContactTryDecode );
+}
+
+void sipsnHeaderContactClear( SipsnHeaderContact **hdr )
+{
+    SIPSN_LIST_CLEAR( hdr );
+    ( *hdr )->starForm = false;
+}
+
+void sipsn___HeaderContactStartup( void ) { sipsn::CreateName( sipsn___PbsContact, "Contact" ); }
+void sipsn___HeaderContactShutdown( void ) { sipsn::DropName( sipsn___PbsContact ); }

@@ -1,0 +1,30 @@
+/* SipsnHeaderContact: the Contact header field, RFC 3261 section 20.10; a list of contact-params, or "*".
+ *
+ *     star form   whether "*" stands for all contacts (RFC 3261 section 10.2.2); false unless set
+ *
+ * Each value is kept as its text and decoded when TryDecodeContactAt asks for it, which gives null when it is no
+ * contact-param. A header field without lines is no header. Each value is encoded as a line of its own.
+ *
+ * A first line that begins with "*" is the star form, and nothing may follow it, not even on a later line. The star
+ * form is encoded as long as there are no contacts: adding one does not end it, but hides it. */
+#ifndef SIPSN_HEADER_CONTACT_H
+#define SIPSN_HEADER_CONTACT_H
+
+#include "sipsn_contact.h"
+#include "sipsn_header.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderContact, sipsnHeaderContact )
+
+PB_API SipsnHeaderContact *sipsnHeaderContactCreate( void );
+
+PB_API bool sipsnHeaderContactIsStarForm( SipsnHeaderContact *hdr );
+PB_API void sipsnHeaderContactSetStarForm( SipsnHeaderContact **hdr, bool starForm ); /* drops all contacts */
+
+SIPSN_DECLARE_LIST( SipsnHeaderContact, sipsnHeaderContact, Contacts, Contact, SipsnContact, contact )
+PB_API SipsnContact *sipsnHeaderContactTryDecodeContactAt( SipsnHeaderContact *hdr, int64_t index );
+PB_API void          sipsnHeaderContactClear( SipsnHeaderContact **hdr ); /* ends the star form as well */
+
+PB_END_DECLS
+#endif

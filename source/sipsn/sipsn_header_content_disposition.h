@@ -1,0 +1,40 @@
+/* SipsnHeaderContentDisposition: the Content-Disposition header field, RFC 3261 section 20.11; what a body is for.
+ *
+ *     Content-Disposition = disp-type *( ";" ( "handling" "=" token / generic-param ) )
+ *
+ *     disposition type   a token, kept in lower case; never absent
+ *     handling           a token, kept in lower case; optional
+ *     generic params     every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. Of several handlings the last counts; one that is
+ * no token is a generic parameter. Getters return new references, or null when the member is absent. Setters and
+ * deleters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_CONTENT_DISPOSITION_H
+#define SIPSN_HEADER_CONTENT_DISPOSITION_H
+
+#include "sipsn_disposition_type.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_handling.h"
+#include "sipsn_header.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderContentDisposition, sipsnHeaderContentDisposition )
+
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionCreate( PbString *dispositionType );
+
+PB_API PbString *sipsnHeaderContentDispositionDispositionType( SipsnHeaderContentDisposition *hdr );
+PB_API void      sipsnHeaderContentDispositionSetDispositionType( SipsnHeaderContentDisposition **hdr,
+                                                                  PbString                       *dispositionType );
+
+PB_API PbString *sipsnHeaderContentDispositionHandling( SipsnHeaderContentDisposition *hdr );
+PB_API bool      sipsnHeaderContentDispositionHasHandling( SipsnHeaderContentDisposition *hdr );
+PB_API void      sipsnHeaderContentDispositionDelHandling( SipsnHeaderContentDisposition **hdr );
+PB_API void      sipsnHeaderContentDispositionSetHandling( SipsnHeaderContentDisposition **hdr, PbString *handling );
+
+PB_API SipsnGenericParams *sipsnHeaderContentDispositionGenericParams( SipsnHeaderContentDisposition *hdr );
+PB_API void                sipsnHeaderContentDispositionSetGenericParams( SipsnHeaderContentDisposition **hdr,
+                                                                          SipsnGenericParams             *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,33 @@
+/* SipsnHeaderCseq: the CSeq header field, RFC 3261 section 20.16; a sequence number and a method.
+ *
+ *     CSeq = 1*DIGIT LWS Method
+ *
+ *     cseq     0 to 2147483647; never absent
+ *     method   case kept; never absent
+ *
+ * The last line of the header field counts, and no line is no header. Getters return new references. Setters replace
+ * *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr forms take text with
+ * its length, -1 meaning up to the terminating zero. */
+#ifndef SIPSN_HEADER_CSEQ_H
+#define SIPSN_HEADER_CSEQ_H
+
+#include "sipsn_cseq.h"
+#include "sipsn_header.h"
+#include "sipsn_method.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderCseq, sipsnHeaderCseq )
+
+PB_API SipsnHeaderCseq *sipsnHeaderCseqCreate( int64_t cseq, PbString *method );
+
+PB_API int64_t sipsnHeaderCseqCseq( SipsnHeaderCseq *hdr );
+PB_API void    sipsnHeaderCseqSetCseq( SipsnHeaderCseq **hdr, int64_t cseq );
+
+PB_API PbString *sipsnHeaderCseqMethod( SipsnHeaderCseq *hdr );
+PB_API void      sipsnHeaderCseqSetMethod( SipsnHeaderCseq **hdr, PbString *method );
+PB_API void      sipsnHeaderCseqSetMethodCstr( SipsnHeaderCseq **hdr, const char *method, int64_t methodLength );
+PB_API void      sipsnHeaderCseqSetMethodWcstr( SipsnHeaderCseq **hdr, const wchar_t *method, int64_t methodLength );
+
+PB_END_DECLS
+#endif

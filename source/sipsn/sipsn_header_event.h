@@ -1,0 +1,45 @@
+/* SipsnHeaderEvent: the Event header field, RFC 6665 section 8.2.1; an event package and which of several subscriptions
+ * to it.
+ *
+ *     Event = event-type *( ";" ( "id" "=" token / generic-param ) )
+ *
+ *     event type       kept as written; never absent
+ *     id               a token, kept as written; optional
+ *     generic params   every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. Of several ids the last counts; one that is no
+ * token is a generic parameter. Getters return new references, or null when the member is absent. Setters and deleters
+ * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr forms take
+ * text with its length, -1 meaning up to the terminating zero. */
+#ifndef SIPSN_HEADER_EVENT_H
+#define SIPSN_HEADER_EVENT_H
+
+#include "sipsn_event_type.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_token.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderEvent, sipsnHeaderEvent )
+
+PB_API SipsnHeaderEvent *sipsnHeaderEventCreate( PbString *eventType );
+PB_API SipsnHeaderEvent *sipsnHeaderEventCreateCstr( const char *eventType, int64_t eventTypeLength );
+PB_API SipsnHeaderEvent *sipsnHeaderEventCreateWcstr( const wchar_t *eventType, int64_t eventTypeLength );
+
+PB_API PbString *sipsnHeaderEventEventType( SipsnHeaderEvent *hdr );
+PB_API void      sipsnHeaderEventSetEventType( SipsnHeaderEvent **hdr, PbString *eventType );
+PB_API void sipsnHeaderEventSetEventTypeCstr( SipsnHeaderEvent **hdr, const char *eventType, int64_t eventTypeLength );
+PB_API void sipsnHeaderEventSetEventTypeWcstr( SipsnHeaderEvent **hdr, const wchar_t *eventType,
+                                               int64_t eventTypeLength );
+
+PB_API PbString *sipsnHeaderEventId( SipsnHeaderEvent *hdr );
+PB_API bool      sipsnHeaderEventHasId( SipsnHeaderEvent *hdr );
+PB_API void      sipsnHeaderEventDelId( SipsnHeaderEvent **hdr );
+PB_API void      sipsnHeaderEventSetId( SipsnHeaderEvent **hdr, PbString *token );
+
+PB_API SipsnGenericParams *sipsnHeaderEventGenericParams( SipsnHeaderEvent *hdr );
+PB_API void sipsnHeaderEventSetGenericParams( SipsnHeaderEvent **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

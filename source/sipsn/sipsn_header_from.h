@@ -1,0 +1,58 @@
+/* SipsnHeaderFrom: the From header field, RFC 3261 section 20.20, with the epid of some endpoints; one address.
+ *
+ *     From = ( name-addr / addr-spec ) *( SEMI ( "tag" EQUAL token / "epid" EQUAL epid / generic-param ) )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     tag             a token, kept as written; optional
+ *     epid            1 to 16 token characters, kept as written; optional
+ *     generic params  every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The parameters of a bare address are the header
+ * field's. The address is always written in angle brackets. On the wire a member that is present takes the place of a
+ * generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
+ * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_FROM_H
+#define SIPSN_HEADER_FROM_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_epid.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+#include "sipsn_tag.h"
+
+struct SipsnHeaderTo;
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderFrom, sipsnHeaderFrom )
+
+PB_API SipsnHeaderFrom *sipsnHeaderFromCreate( PbString *iri );
+
+/* The same address and parameters. The tag goes along. */
+PB_API SipsnHeaderFrom *sipsnHeaderFromCreateFromHeaderTo( struct SipsnHeaderTo *hdrTo );
+
+PB_API PbString *sipsnHeaderFromIri( SipsnHeaderFrom *hdr );
+PB_API void      sipsnHeaderFromSetIri( SipsnHeaderFrom **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderFromDisplayName( SipsnHeaderFrom *hdr );
+PB_API bool      sipsnHeaderFromHasDisplayName( SipsnHeaderFrom *hdr );
+PB_API void      sipsnHeaderFromSetDisplayName( SipsnHeaderFrom **hdr, PbString *displayName );
+PB_API void      sipsnHeaderFromDelDisplayName( SipsnHeaderFrom **hdr );
+
+PB_API PbString *sipsnHeaderFromTag( SipsnHeaderFrom *hdr );
+PB_API bool      sipsnHeaderFromHasTag( SipsnHeaderFrom *hdr );
+PB_API void      sipsnHeaderFromSetTag( SipsnHeaderFrom **hdr, PbString *tag );
+PB_API void      sipsnHeaderFromDelTag( SipsnHeaderFrom **hdr );
+
+PB_API PbString *sipsnHeaderFromEpid( SipsnHeaderFrom *hdr );
+PB_API bool      sipsnHeaderFromHasEpid( SipsnHeaderFrom *hdr );
+PB_API void      sipsnHeaderFromSetEpid( SipsnHeaderFrom **hdr, PbString *epid );
+PB_API void      sipsnHeaderFromDelEpid( SipsnHeaderFrom **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderFromGenericParams( SipsnHeaderFrom *hdr );
+PB_API void                sipsnHeaderFromSetGenericParams( SipsnHeaderFrom **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,31 @@
+/* SipsnHeaderMinSe: the Min-SE header field, RFC 4028 section 5; the shortest session interval.
+ *
+ *     Min-SE = 1*DIGIT *( ";" generic-param )
+ *
+ *     delta seconds    seconds, 0 or above; never absent
+ *     generic params   all parameters; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. Text behind the last parameter that no ";" begins
+ * is ignored. Getters return new references. Setters replace *hdr by a private copy when it is shared. A null or
+ * invalid argument aborts. */
+#ifndef SIPSN_HEADER_MIN_SE_H
+#define SIPSN_HEADER_MIN_SE_H
+
+#include "sipsn_delta_seconds.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderMinSe, sipsnHeaderMinSe )
+
+PB_API SipsnHeaderMinSe *sipsnHeaderMinSeCreate( int64_t deltaSeconds );
+
+PB_API int64_t sipsnHeaderMinSeDeltaSeconds( SipsnHeaderMinSe *hdr );
+PB_API void    sipsnHeaderMinSeSetDeltaSeconds( SipsnHeaderMinSe **hdr, int64_t deltaSeconds );
+
+PB_API SipsnGenericParams *sipsnHeaderMinSeGenericParams( SipsnHeaderMinSe *hdr );
+PB_API void sipsnHeaderMinSeSetGenericParams( SipsnHeaderMinSe **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

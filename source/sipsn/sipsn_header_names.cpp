@@ -1,0 +1,345 @@
+// The header names of the SIP registry as shared strings, and a hash table over them that is made at compile time.
+#include "sipsn_header_names.h"
+
+#include "sipsn_char_class.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
+
+#if defined( __SSE2__ )
+#include <bit>
+#include <emmintrin.h>
+#endif
+
+namespace sipsn {
+
+static constexpr std::string_view names[] = {
+    "Accept",
+    "Accept-Contact",
+    "Accept-Encoding",
+    "Accept-Language",
+    "Accept-Resource-Priority",
+    "Alert-Info",
+    "Allow",
+    "Allow-Events",
+    "Authentication-Info",
+    "Authorization",
+    "Call-Id",
+    "Call-Info",
+    "Contact",
+    "Content-Disposition",
+    "Content-Encoding",
+    "Content-Language",
+    "Content-Length",
+    "Content-Type",
+    "Cseq",
+    "Date",
+    "Diversion",
+    "Error-Info",
+    "Event",
+    "Expires",
+    "Feature-Caps",
+    "Flow-Timer",
+    "From",
+    "Geolocation",
+    "Geolocation-Error",
+    "Geolocation-Routing",
+    "History-Info",
+    "Identity",
+    "Identity-Info",
+    "In-Reply-To",
+    "Info-Package",
+    "Join",
+    "Max-Breadth",
+    "Max-Forwards",
+    "Mime-Version",
+    "Min-Expires",
+    "Min-Se",
+    "Organization",
+    "P-Access-Network-Info",
+    "P-Asserted-Identity",
+    "P-Asserted-Service",
+    "P-Associated-Uri",
+    "P-Called-Party-Id",
+    "P-Charging-Function-Addresses",
+    "P-Charging-Vector",
+    "P-Early-Media",
+    "P-Preferred-Identity",
+    "P-Preferred-Service",
+    "P-Profile-Key",
+    "P-Served-User",
+    "P-Visited-Network-Id",
+    "Path",
+    "Permission-Missing",
+    "Policy-Contact",
+    "Policy-Id",
+    "Priority",
+    "Privacy",
+    "Proxy-Authenticate",
+    "Proxy-Authentication-Info",
+    "Proxy-Authorization",
+    "Proxy-Require",
+    "Rack",
+    "Reason",
+    "Record-Route",
+    "Recv-Info",
+    "Refer-Sub",
+    "Refer-To",
+    "Referred-By",
+    "Reject-Contact",
+    "Remote-Party-Id",
+    "Replaces",
+    "Reply-To",
+    "Request-Disposition",
+    "Require",
+    "Resource-Priority",
+    "Retry-After",
+    "Route",
+    "Rseq",
+    "Security-Client",
+    "Security-Server",
+    "Security-Verify",
+    "Server",
+    "Service-Route",
+    "Session-Expires",
+    "Session-Id",
+    "Sip-Etag",
+    "Sip-If-Match",
+    "Subject",
+    "Subscription-State",
+    "Supported",
+    "Suppress-If-Match",
+    "Target-Dialog",
+    "Timestamp",
+    "To",
+    "Unsupported",
+    "User-Agent",
+    "User-To-User",
+    "Via",
+    "Warning",
+    "Www-Authenticate",
+};
+static constexpr size_t count = std::size( names );
+static_assert( count == headerNameCount && std::ranges::is_sorted( names ) );
+
+// RFC 3261 section 7.3.3 and the RFCs that registered compact names since.
+struct CompactName
+{
+    char             letter;
+    std::string_view name;
+};
+static constexpr CompactName compactNames[] = {
+    { 'a', "Accept-Contact" },
+    { 'u', "Allow-Events" },
+    { 'i', "Call-Id" },
+    { 'm', "Contact" },
+    { 'e', "Content-Encoding" },
+    { 'l', "Content-Length" },
+    { 'c', "Content-Type" },
+    { 'o', "Event" },
+    { 'f', "From" },
+    { 'y', "Identity" },
+    { 'n', "Identity-Info" },
+    { 'r', "Refer-To" },
+    { 'b', "Referred-By" },
+    { 'j', "Reject-Contact" },
+    { 'd', "Request-Disposition" },
+    { 'x', "Session-Expires" },
+    { 's', "Subject" },
+    { 'k', "Supported" },
+    { 't', "To" },
+    { 'v', "Via" },
+};
+
+static constexpr uint8_t none = 255;
+static_assert( count < none );
+
+// A token character in lower case; 0 for every other byte.
+static constexpr auto lowerToken = [] {
+    std::array< uint8_t, 256 > table{};
+    for( int ch = 0; ch < 128; ++ch )
+        if( Is( ch, Token ) ) table[ size_t( ch ) ] = uint8_t( ch >= 'A' && ch <= 'Z' ? ch + 32 : ch );
+    return table;
+}();
+
+template< class Ch > static constexpr uint8_t Lower( Ch ch )
+{
+    return uint32_t( ch ) < 256 ? lowerToken[ uint32_t( ch ) ] : uint8_t( 0 );
+}
+
+// The beginning of a name in lower case, zeros behind it, so that names are compared eight characters at a time.
+static constexpr size_t longestName = 32;
+using LowerName                     = std::array< uint8_t, longestName >;
+
+static constexpr auto lowerNames = [] {
+    std::array< LowerName, count > table{};
+    for( size_t at = 0; at < count; ++at )
+        for( size_t n = 0; n < names[ at ].size(); ++n ) table[ at ][ n ] = Lower( names[ at ][ n ] );
+    return table;
+}();
+
+static bool SameName( const LowerName &a, const LowerName &b, size_t length )
+{
+    for( size_t n = 0; n < length; n += 8 )
+        if( std::memcmp( a.data() + n, b.data() + n, 8 ) != 0 ) return false;
+    return true;
+}
+
+// Length and three letters, in whatever case, tell nearly all names apart.
+static constexpr size_t slotCount = 512;
+static constexpr size_t FirstSlot( const uint8_t *name, size_t length )
+{
+    const auto letter = [ = ]( size_t n ) { return name[ n ] | 0x20u; };
+    return ( length * 23 + letter( 0 ) * 5 + letter( length / 2 ) * 37 + letter( length - 1 ) * 113 ) % slotCount;
+}
+
+static constexpr auto slots = [] {
+    std::array< uint8_t, slotCount > table{};
+    for( uint8_t &slot : table ) slot = none;
+    for( size_t at = 0; at < count; ++at ) {
+        size_t slot = FirstSlot( lowerNames[ at ].data(), names[ at ].size() );
+        while( table[ slot ] != none ) slot = ( slot + 1 ) % slotCount;
+        table[ slot ] = uint8_t( at );
+    }
+    return table;
+}();
+
+static constexpr auto compact = [] {
+    std::array< uint8_t, 26 > table{};
+    for( uint8_t &index : table ) index = none;
+    for( const CompactName &entry : compactNames )
+        for( size_t at = 0; at < count; ++at )
+            if( names[ at ] == entry.name ) table[ size_t( entry.letter - 'a' ) ] = uint8_t( at );
+    return table;
+}();
+
+static PbString *strings[ count ];
+
+static int64_t NumberOf( const LowerName &name, size_t length )
+{
+    if( length == 1 ) {
+        const uint8_t letter = name[ 0 ];
+        const uint8_t found  = letter >= 'a' && letter <= 'z' ? compact[ size_t( letter - 'a' ) ] : none;
+        return found == none ? -1 : found;
+    }
+    for( size_t slot = FirstSlot( name.data(), length ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
+        const size_t at = slots[ slot ];
+        if( names[ at ].size() == length && SameName( name, lowerNames[ at ], length ) ) return int64_t( at );
+    }
+    return -1;
+}
+
+template< class Ch > static HeaderNameToken Scan( const Ch *chs, int64_t length )
+{
+    LowerName     name{};
+    const int64_t kept = std::min( length, int64_t( longestName ) );
+    int64_t       at   = 0;
+    for( ; at < kept; ++at ) {
+        name[ size_t( at ) ] = Lower( chs[ at ] );
+        if( !name[ size_t( at ) ] ) return { at, at > 0 ? NumberOf( name, size_t( at ) ) : -1 };
+    }
+    if( at == length ) return { at, at > 0 ? NumberOf( name, size_t( at ) ) : -1 };
+    while( at < length && Lower( chs[ at ] ) ) ++at;
+    return { at, -1 };
+}
+
+#if defined( __SSE2__ )
+
+static __m128i LowerBlock( __m128i text )
+{
+    const __m128i upper = _mm_and_si128( _mm_cmpgt_epi8( text, _mm_set1_epi8( 'A' - 1 ) ),
+                                         _mm_cmplt_epi8( text, _mm_set1_epi8( 'Z' + 1 ) ) );
+    return _mm_or_si128( text, _mm_and_si128( upper, _mm_set1_epi8( 0x20 ) ) );
+}
+
+static uint32_t EqualBytes( __m128i a, __m128i b ) { return uint32_t( _mm_movemask_epi8( _mm_cmpeq_epi8( a, b ) ) ); }
+
+// The same for how fields usually begin: a known name of at least two characters and a colon. The number is -1 for all
+// others.
+static HeaderNameToken ScanCommonName( const PbByte *bytes, int64_t length )
+{
+    if( length < 16 ) return { 0, -1 };
+    const auto load = []( const uint8_t *from ) {
+        return _mm_loadu_si128( reinterpret_cast< const __m128i * >( from ) );
+    };
+    const __m128i colon  = _mm_set1_epi8( ':' );
+    const __m128i low    = load( bytes );
+    __m128i       high   = _mm_setzero_si128();
+    uint32_t      colons = EqualBytes( low, colon );
+    if( colons == 0 && length >= 32 ) { // few names are so long
+        high   = load( bytes + 16 );
+        colons = EqualBytes( high, colon ) << 16;
+    }
+    const size_t size = size_t( std::countr_zero( colons ) ); // 32 when there is none
+    if( size < 2 || size > 31 ) return { 0, -1 };
+
+    const uint32_t all      = ( uint32_t( 1 ) << size ) - 1;
+    const __m128i  lowerLow = LowerBlock( low );
+    for( size_t slot = FirstSlot( bytes, size ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
+        const size_t at = slots[ slot ];
+        if( names[ at ].size() != size ) continue;
+        const uint8_t *name  = lowerNames[ at ].data();
+        uint32_t       equal = EqualBytes( lowerLow, load( name ) );
+        if( size > 16 ) equal |= EqualBytes( LowerBlock( high ), load( name + 16 ) ) << 16;
+        if( ( equal & all ) == all ) return { int64_t( size ), int64_t( at ) };
+    }
+    return { 0, -1 };
+}
+
+#else
+
+static HeaderNameToken ScanCommonName( const PbByte *, int64_t ) { return { 0, -1 }; }
+
+#endif
+
+HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length ) { return Scan( chs, length ); }
+HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length )
+{
+    const HeaderNameToken known = ScanCommonName( bytes, length );
+    return known.number >= 0 ? known : Scan( bytes, length );
+}
+
+PbString *HeaderNameAt( int64_t number ) { return strings[ number ]; }
+
+// Tokens are ASCII, so that upper and lower case are too.
+template< class Ch > static PbString *Capitalise( const Ch *chs, int64_t length )
+{
+    PbString *name      = pb___StringCreateUninitialized( length );
+    bool      wordBegin = true;
+    for( int64_t at = 0; at < length; ++at ) {
+        const uint8_t lower = Lower( chs[ at ] );
+        name->chs[ at ]     = wordBegin && lower >= 'a' && lower <= 'z' ? lower - 32 : lower;
+        wordBegin           = lower == '-';
+    }
+    return name;
+}
+
+PbString *CapitaliseHeaderName( const PbChar *chs, int64_t length ) { return Capitalise( chs, length ); }
+PbString *CapitaliseHeaderName( const PbByte *bytes, int64_t length ) { return Capitalise( bytes, length ); }
+
+// Whether a name is there: none is before the first start, and each is poisoned by a stop.
+static bool IsSet( const PbString *name ) { return name && reinterpret_cast< uintptr_t >( name ) != UINTPTR_MAX; }
+
+void ShareHeaderName( PbString *name )
+{
+    const int64_t number = Scan( name->chs, name->length ).number;
+    if( number < 0 || IsSet( strings[ number ] ) ) return;
+    if( pbStringEqualsCstr( name, names[ number ].data(), int64_t( names[ number ].size() ) ) )
+        strings[ number ] = pb::Retain( name );
+}
+
+void StartHeaderNames()
+{
+    for( size_t at = 0; at < count; ++at )
+        if( !IsSet( strings[ at ] ) )
+            strings[ at ] = pbStringCreateFromCstr( names[ at ].data(), int64_t( names[ at ].size() ) );
+}
+
+void StopHeaderNames()
+{
+    for( PbString *&name : strings ) pb::ReleaseAndPoison( name );
+}
+
+} // namespace sipsn

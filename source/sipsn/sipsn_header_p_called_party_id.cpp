@@ -1,0 +1,62 @@
+// SipsnHeaderPCalledPartyId: the P-Called-Party-ID header field, RFC 7315 section 4.2.
+#include "sipsn_header_p_called_party_id.h"
+
+#include "sipsn_header_address.h"
+#include "sipsn_header_internal.h"
+
+struct SipsnHeaderPCalledPartyId
+{
+    PbObj               obj;
+    PbString           *iri;
+    PbString           *displayName;
+    SipsnGenericParams *genericParams;
+
+    using Members = pb::Members< &SipsnHeaderPCalledPartyId::iri, &SipsnHeaderPCalledPartyId::displayName,
+                                 &SipsnHeaderPCalledPartyId::genericParams >;
+};
+
+PbString *sipsn___PbsPCalledPartyId;
+
+static constexpr sipsn::Address< SipsnHeaderPCalledPartyId > shape{};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderPCalledPartyId, sipsnHeaderPCalledPartyId, SIPSN_HEADER_P_CALLED_PARTY_ID,
+                     sipsn___PbsPCalledPartyId, shape )
+
+SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreate( PbString *iri )
+{
+    PB_ASSERT( sipsnIriOk( iri ) );
+    return shape.Create( pb::Retain( iri ) );
+}
+
+// ---- Accessors -------------------------------------------------------------------------------------
+
+PbString *sipsnHeaderPCalledPartyIdIri( SipsnHeaderPCalledPartyId *hdr ) { return PB_GET( hdr, iri ); }
+void      sipsnHeaderPCalledPartyIdSetIri( SipsnHeaderPCalledPartyId **hdr, PbString *iri )
+{
+    PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
+}
+
+PbString *sipsnHeaderPCalledPartyIdDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_GET( hdr, displayName ); }
+bool sipsnHeaderPCalledPartyIdHasDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_HAS( hdr, displayName ); }
+void sipsnHeaderPCalledPartyIdDelDisplayName( SipsnHeaderPCalledPartyId **hdr ) { PB_DEL( hdr, displayName ); }
+void sipsnHeaderPCalledPartyIdSetDisplayName( SipsnHeaderPCalledPartyId **hdr, PbString *displayName )
+{
+    PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
+}
+
+SipsnGenericParams *sipsnHeaderPCalledPartyIdGenericParams( SipsnHeaderPCalledPartyId *hdr )
+{
+    return PB_GET( hdr, genericParams );
+}
+void sipsnHeaderPCalledPartyIdSetGenericParams( SipsnHeaderPCalledPartyId **hdr, SipsnGenericParams *genericParams )
+{
+    PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
+}
+
+// ---- Start-up and shutdown -------------------------------------------------------------------------
+
+void sipsn___HeaderPCalledPartyIdStartup( void )
+{
+    sipsn::CreateName( sipsn___PbsPCalledPartyId, "P-Called-Party-Id" );
+}
+void sipsn___HeaderPCalledPartyIdShutdown( void ) { sipsn::DropName( sipsn___PbsPCalledPartyId ); }

@@ -1,0 +1,39 @@
+/* SipsnHeaderPCalledPartyId: the P-Called-Party-ID header field, RFC 7315 section 4.2; one address.
+ *
+ *     P-Called-Party-ID = ( name-addr / addr-spec ) *( SEMI generic-param )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     generic params  the parameters; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The address is always written in angle brackets.
+ * Getters return a new reference, null when the member is absent. Setters and deleters replace *hdr by a private copy
+ * when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_P_CALLED_PARTY_ID_H
+#define SIPSN_HEADER_P_CALLED_PARTY_ID_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderPCalledPartyId, sipsnHeaderPCalledPartyId )
+
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreate( PbString *iri );
+
+PB_API PbString *sipsnHeaderPCalledPartyIdIri( SipsnHeaderPCalledPartyId *hdr );
+PB_API void      sipsnHeaderPCalledPartyIdSetIri( SipsnHeaderPCalledPartyId **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderPCalledPartyIdDisplayName( SipsnHeaderPCalledPartyId *hdr );
+PB_API bool      sipsnHeaderPCalledPartyIdHasDisplayName( SipsnHeaderPCalledPartyId *hdr );
+PB_API void      sipsnHeaderPCalledPartyIdSetDisplayName( SipsnHeaderPCalledPartyId **hdr, PbString *displayName );
+PB_API void      sipsnHeaderPCalledPartyIdDelDisplayName( SipsnHeaderPCalledPartyId **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderPCalledPartyIdGenericParams( SipsnHeaderPCalledPartyId *hdr );
+PB_API void                sipsnHeaderPCalledPartyIdSetGenericParams( SipsnHeaderPCalledPartyId **hdr,
+                                                                      SipsnGenericParams         *genericParams );
+
+PB_END_DECLS
+#endif

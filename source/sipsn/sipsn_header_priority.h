@@ -1,0 +1,41 @@
+/* SipsnHeaderPriority: the Priority header field, RFC 3261 section 20.26; how urgent a request is.
+ *
+ *     Priority = token
+ *
+ *     priority value   a token, kept in lower case; never absent
+ *
+ * Four values have functions of their own: "emergency", "urgent", "normal" and "non-urgent". Others are as good.
+ *
+ * The last line of the header field counts, and no line is no header. The getter returns a new reference. Setters
+ * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_PRIORITY_H
+#define SIPSN_HEADER_PRIORITY_H
+
+#include "sipsn_header.h"
+#include "sipsn_priority_value.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderPriority, sipsnHeaderPriority )
+
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreate( PbString *priorityValue );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateEmergency( void );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateUrgent( void );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateNormal( void );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateNonUrgent( void );
+
+PB_API PbString *sipsnHeaderPriorityPriorityValue( SipsnHeaderPriority *hdr );
+PB_API void      sipsnHeaderPrioritySetPriorityValue( SipsnHeaderPriority **hdr, PbString *priorityValue );
+
+PB_API bool sipsnHeaderPriorityIsEmergency( SipsnHeaderPriority *hdr );
+PB_API bool sipsnHeaderPriorityIsUrgent( SipsnHeaderPriority *hdr );
+PB_API bool sipsnHeaderPriorityIsNormal( SipsnHeaderPriority *hdr );
+PB_API bool sipsnHeaderPriorityIsNonUrgent( SipsnHeaderPriority *hdr );
+
+PB_API void sipsnHeaderPrioritySetEmergency( SipsnHeaderPriority **hdr );
+PB_API void sipsnHeaderPrioritySetUrgent( SipsnHeaderPriority **hdr );
+PB_API void sipsnHeaderPrioritySetNormal( SipsnHeaderPriority **hdr );
+PB_API void sipsnHeaderPrioritySetNonUrgent( SipsnHeaderPriority **hdr );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,36 @@
+/* SipsnHeaderRack: the RAck header field, RFC 3262 section 7.2; which provisional response a PRACK request
+ * acknowledges.
+ *
+ *     RAck = response-num LWS 1*DIGIT LWS Method
+ *
+ *     response num   1 to 4294967295, the RSeq of the response; never absent
+ *     cseq           0 to 2147483647, from the CSeq of the response; never absent
+ *     method         from the same, case kept; never absent
+ *
+ * The last line of the header field counts, and no line is no header. Getters return new references. Setters replace
+ * *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_RACK_H
+#define SIPSN_HEADER_RACK_H
+
+#include "sipsn_cseq.h"
+#include "sipsn_header.h"
+#include "sipsn_method.h"
+#include "sipsn_response_num.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderRack, sipsnHeaderRack )
+
+PB_API SipsnHeaderRack *sipsnHeaderRackCreate( int64_t responseNum, int64_t cseq, PbString *method );
+
+PB_API int64_t sipsnHeaderRackResponseNum( SipsnHeaderRack *hdr );
+PB_API void    sipsnHeaderRackSetResponseNum( SipsnHeaderRack **hdr, int64_t responseNum );
+
+PB_API int64_t sipsnHeaderRackCseq( SipsnHeaderRack *hdr );
+PB_API void    sipsnHeaderRackSetCseq( SipsnHeaderRack **hdr, int64_t cseq );
+
+PB_API PbString *sipsnHeaderRackMethod( SipsnHeaderRack *hdr );
+PB_API void      sipsnHeaderRackSetMethod( SipsnHeaderRack **hdr, PbString *method );
+
+PB_END_DECLS
+#endif

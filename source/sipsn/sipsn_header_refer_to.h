@@ -1,0 +1,40 @@
+/* SipsnHeaderReferTo: the Refer-To header field, RFC 3515 section 2.1; one address.
+ *
+ *     Refer-To = ( name-addr / addr-spec ) *( SEMI generic-param )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     generic params  the parameters; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The parameters of a bare address are the header
+ * field's. When they do not fit, or text is left that no parameter begins, the address is read once more as a URI that
+ * may hold ";" and "?". The address is always written in angle brackets. Getters return a new reference, null when the
+ * member is absent. Setters and deleters replace *hdr by a private copy when it is shared. A null or invalid argument
+ * aborts. */
+#ifndef SIPSN_HEADER_REFER_TO_H
+#define SIPSN_HEADER_REFER_TO_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderReferTo, sipsnHeaderReferTo )
+
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToCreate( PbString *iri );
+
+PB_API PbString *sipsnHeaderReferToIri( SipsnHeaderReferTo *hdr );
+PB_API void      sipsnHeaderReferToSetIri( SipsnHeaderReferTo **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderReferToDisplayName( SipsnHeaderReferTo *hdr );
+PB_API bool      sipsnHeaderReferToHasDisplayName( SipsnHeaderReferTo *hdr );
+PB_API void      sipsnHeaderReferToSetDisplayName( SipsnHeaderReferTo **hdr, PbString *displayName );
+PB_API void      sipsnHeaderReferToDelDisplayName( SipsnHeaderReferTo **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderReferToGenericParams( SipsnHeaderReferTo *hdr );
+PB_API void sipsnHeaderReferToSetGenericParams( SipsnHeaderReferTo **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

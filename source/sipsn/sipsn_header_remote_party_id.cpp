@@ -1,0 +1,59 @@
+// SipsnHeaderRemotePartyId: the Remote-Party-ID header field, draft-ietf-sip-privacy-04 section 5.
+#include "sipsn_header_remote_party_id.h"
+
+#include "sipsn_header_address.h"
+#include "sipsn_header_internal.h"
+
+struct SipsnHeaderRemotePartyId
+{
+    PbObj               obj;
+    PbString           *iri;
+    PbString           *displayName;
+    SipsnGenericParams *genericParams;
+
+    using Members = pb::Members< &SipsnHeaderRemotePartyId::iri, &SipsnHeaderRemotePartyId::displayName,
+                                 &SipsnHeaderRemotePartyId::genericParams >;
+};
+
+PbString *sipsn___PbsRemotePartyId;
+
+static constexpr sipsn::Address< SipsnHeaderRemotePartyId > shape{};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderRemotePartyId, sipsnHeaderRemotePartyId, SIPSN_HEADER_REMOTE_PARTY_ID,
+                     sipsn___PbsRemotePartyId, shape )
+
+SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreate( PbString *iri )
+{
+    PB_ASSERT( sipsnIriOk( iri ) );
+    return shape.Create( pb::Retain( iri ) );
+}
+
+// ---- Accessors -------------------------------------------------------------------------------------
+
+PbString *sipsnHeaderRemotePartyIdIri( SipsnHeaderRemotePartyId *hdr ) { return PB_GET( hdr, iri ); }
+void      sipsnHeaderRemotePartyIdSetIri( SipsnHeaderRemotePartyId **hdr, PbString *iri )
+{
+    PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
+}
+
+PbString *sipsnHeaderRemotePartyIdDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_GET( hdr, displayName ); }
+bool      sipsnHeaderRemotePartyIdHasDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_HAS( hdr, displayName ); }
+void      sipsnHeaderRemotePartyIdDelDisplayName( SipsnHeaderRemotePartyId **hdr ) { PB_DEL( hdr, displayName ); }
+void      sipsnHeaderRemotePartyIdSetDisplayName( SipsnHeaderRemotePartyId **hdr, PbString *displayName )
+{
+    PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
+}
+
+SipsnGenericParams *sipsnHeaderRemotePartyIdGenericParams( SipsnHeaderRemotePartyId *hdr )
+{
+    return PB_GET( hdr, genericParams );
+}
+void sipsnHeaderRemotePartyIdSetGenericParams( SipsnHeaderRemotePartyId **hdr, SipsnGenericParams *genericParams )
+{
+    PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
+}
+
+// ---- Start-up and shutdown -------------------------------------------------------------------------
+
+void sipsn___HeaderRemotePartyIdStartup( void ) { sipsn::CreateName( sipsn___PbsRemotePartyId, "Remote-Party-Id" ); }
+void sipsn___HeaderRemotePartyIdShutdown( void ) { sipsn::DropName( sipsn___PbsRemotePartyId ); }

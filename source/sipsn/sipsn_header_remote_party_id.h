@@ -1,0 +1,39 @@
+/* SipsnHeaderRemotePartyId: the Remote-Party-ID header field, draft-ietf-sip-privacy-04 section 5; one address.
+ *
+ *     Remote-Party-ID = ( name-addr / addr-spec ) *( SEMI generic-param )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     generic params  the parameters; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The address is always written in angle brackets.
+ * Getters return a new reference, null when the member is absent. Setters and deleters replace *hdr by a private copy
+ * when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_REMOTE_PARTY_ID_H
+#define SIPSN_HEADER_REMOTE_PARTY_ID_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderRemotePartyId, sipsnHeaderRemotePartyId )
+
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreate( PbString *iri );
+
+PB_API PbString *sipsnHeaderRemotePartyIdIri( SipsnHeaderRemotePartyId *hdr );
+PB_API void      sipsnHeaderRemotePartyIdSetIri( SipsnHeaderRemotePartyId **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderRemotePartyIdDisplayName( SipsnHeaderRemotePartyId *hdr );
+PB_API bool      sipsnHeaderRemotePartyIdHasDisplayName( SipsnHeaderRemotePartyId *hdr );
+PB_API void      sipsnHeaderRemotePartyIdSetDisplayName( SipsnHeaderRemotePartyId **hdr, PbString *displayName );
+PB_API void      sipsnHeaderRemotePartyIdDelDisplayName( SipsnHeaderRemotePartyId **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderRemotePartyIdGenericParams( SipsnHeaderRemotePartyId *hdr );
+PB_API void                sipsnHeaderRemotePartyIdSetGenericParams( SipsnHeaderRemotePartyId **hdr,
+                                                                     SipsnGenericParams        *genericParams );
+
+PB_END_DECLS
+#endif

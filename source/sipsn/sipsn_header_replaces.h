@@ -1,0 +1,49 @@
+/* SipsnHeaderReplaces: the Replaces header field, RFC 3891 section 6.1; the dialog that a call is to take the place of.
+ *
+ *     Replaces = callid *( SEMI ( "from-tag" EQUAL token / "to-tag" EQUAL token / "early-only" / generic-param ) )
+ *
+ *     call id         kept as written; never absent
+ *     to tag          a token, kept as written; optional
+ *     from tag        a token, kept as written; optional
+ *     early only      true when only a dialog not yet confirmed is meant; false by default
+ *     generic params  every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. An "early-only" with a value is a generic
+ * parameter. The from tag is written before the to tag; on the wire a member that is present takes the place of a
+ * generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
+ * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_REPLACES_H
+#define SIPSN_HEADER_REPLACES_H
+
+#include "sipsn_call_id.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_tag.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderReplaces, sipsnHeaderReplaces )
+
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesCreate( PbString *callId );
+
+PB_API PbString *sipsnHeaderReplacesCallId( SipsnHeaderReplaces *hdr );
+PB_API void      sipsnHeaderReplacesSetCallId( SipsnHeaderReplaces **hdr, PbString *callId );
+
+PB_API PbString *sipsnHeaderReplacesToTag( SipsnHeaderReplaces *hdr );
+PB_API bool      sipsnHeaderReplacesHasToTag( SipsnHeaderReplaces *hdr );
+PB_API void      sipsnHeaderReplacesSetToTag( SipsnHeaderReplaces **hdr, PbString *tag );
+PB_API void      sipsnHeaderReplacesDelToTag( SipsnHeaderReplaces **hdr );
+
+PB_API PbString *sipsnHeaderReplacesFromTag( SipsnHeaderReplaces *hdr );
+PB_API bool      sipsnHeaderReplacesHasFromTag( SipsnHeaderReplaces *hdr );
+PB_API void      sipsnHeaderReplacesSetFromTag( SipsnHeaderReplaces **hdr, PbString *tag );
+PB_API void      sipsnHeaderReplacesDelFromTag( SipsnHeaderReplaces **hdr );
+
+PB_API bool sipsnHeaderReplacesEarlyOnly( SipsnHeaderReplaces *hdr );
+PB_API void sipsnHeaderReplacesSetEarlyOnly( SipsnHeaderReplaces **hdr, bool earlyOnly );
+
+PB_API SipsnGenericParams *sipsnHeaderReplacesGenericParams( SipsnHeaderReplaces *hdr );
+PB_API void sipsnHeaderReplacesSetGenericParams( SipsnHeaderReplaces **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,55 @@
+// SipsnHeaderReplyTo: the Reply-To header field, RFC 3261 section 20.31.
+#include "sipsn_header_reply_to.h"
+
+#include "sipsn_header_address.h"
+#include "sipsn_header_internal.h"
+
+struct SipsnHeaderReplyTo
+{
+    PbObj               obj;
+    PbString           *iri;
+    PbString           *displayName;
+    SipsnGenericParams *genericParams;
+
+    using Members =
+        pb::Members< &SipsnHeaderReplyTo::iri, &SipsnHeaderReplyTo::displayName, &SipsnHeaderReplyTo::genericParams >;
+};
+
+PbString *sipsn___PbsReplyTo;
+
+static constexpr sipsn::Address< SipsnHeaderReplyTo > shape{};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderReplyTo, sipsnHeaderReplyTo, SIPSN_HEADER_REPLY_TO, sipsn___PbsReplyTo, shape )
+
+SipsnHeaderReplyTo *sipsnHeaderReplyToCreate( PbString *iri )
+{
+    PB_ASSERT( sipsnIriOk( iri ) );
+    return shape.Create( pb::Retain( iri ) );
+}
+
+// ---- Accessors -------------------------------------------------------------------------------------
+
+PbString *sipsnHeaderReplyToIri( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, iri ); }
+void      sipsnHeaderReplyToSetIri( SipsnHeaderReplyTo **hdr, PbString *iri )
+{
+    PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
+}
+
+PbString *sipsnHeaderReplyToDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, displayName ); }
+bool      sipsnHeaderReplyToHasDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_HAS( hdr, displayName ); }
+void      sipsnHeaderReplyToDelDisplayName( SipsnHeaderReplyTo **hdr ) { PB_DEL( hdr, displayName ); }
+void      sipsnHeaderReplyToSetDisplayName( SipsnHeaderReplyTo **hdr, PbString *displayName )
+{
+    PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
+}
+
+SipsnGenericParams *sipsnHeaderReplyToGenericParams( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, genericParams ); }
+void                sipsnHeaderReplyToSetGenericParams( SipsnHeaderReplyTo **hdr, SipsnGenericParams *genericParams )
+{
+    PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
+}
+
+// ---- Start-up and shutdown -------------------------------------------------------------------------
+
+void sipsn___HeaderReplyToStartup( void ) { sipsn::CreateName( sipsn___PbsReplyTo, "Reply-To" ); }
+void sipsn___HeaderReplyToShutdown( void ) { sipsn::DropName( sipsn___PbsReplyTo ); }

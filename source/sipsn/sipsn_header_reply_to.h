@@ -1,0 +1,38 @@
+/* SipsnHeaderReplyTo: the Reply-To header field, RFC 3261 section 20.31; one address.
+ *
+ *     Reply-To = ( name-addr / addr-spec ) *( SEMI generic-param )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     generic params  the parameters; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The address is always written in angle brackets.
+ * Getters return a new reference, null when the member is absent. Setters and deleters replace *hdr by a private copy
+ * when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_REPLY_TO_H
+#define SIPSN_HEADER_REPLY_TO_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderReplyTo, sipsnHeaderReplyTo )
+
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToCreate( PbString *iri );
+
+PB_API PbString *sipsnHeaderReplyToIri( SipsnHeaderReplyTo *hdr );
+PB_API void      sipsnHeaderReplyToSetIri( SipsnHeaderReplyTo **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderReplyToDisplayName( SipsnHeaderReplyTo *hdr );
+PB_API bool      sipsnHeaderReplyToHasDisplayName( SipsnHeaderReplyTo *hdr );
+PB_API void      sipsnHeaderReplyToSetDisplayName( SipsnHeaderReplyTo **hdr, PbString *displayName );
+PB_API void      sipsnHeaderReplyToDelDisplayName( SipsnHeaderReplyTo **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderReplyToGenericParams( SipsnHeaderReplyTo *hdr );
+PB_API void sipsnHeaderReplyToSetGenericParams( SipsnHeaderReplyTo **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

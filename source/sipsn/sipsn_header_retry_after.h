@@ -1,0 +1,38 @@
+/* SipsnHeaderRetryAfter: the Retry-After header field, RFC 3261 section 20.33; when to try again.
+ *
+ *     Retry-After = 1*DIGIT [ comment ] *( ";" ( "duration" "=" 1*DIGIT / generic-param ) )
+ *
+ *     delta seconds    seconds until then, 0 or above; never absent
+ *     duration         seconds for which it holds from then, 0 or above; -1 when absent
+ *     generic params   every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The comment is read and not kept. Of several
+ * durations the last counts; one that is no number is a generic parameter. Text that no ";" begins, behind the comment
+ * or behind the last parameter, is ignored. Getters return new references. Setters and deleters replace *hdr by a
+ * private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_RETRY_AFTER_H
+#define SIPSN_HEADER_RETRY_AFTER_H
+
+#include "sipsn_delta_seconds.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderRetryAfter, sipsnHeaderRetryAfter )
+
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterCreate( int64_t deltaSeconds );
+
+PB_API int64_t sipsnHeaderRetryAfterDeltaSeconds( SipsnHeaderRetryAfter *hdr );
+PB_API void    sipsnHeaderRetryAfterSetDeltaSeconds( SipsnHeaderRetryAfter **hdr, int64_t deltaSeconds );
+
+PB_API int64_t sipsnHeaderRetryAfterDuration( SipsnHeaderRetryAfter *hdr );
+PB_API bool    sipsnHeaderRetryAfterHasDuration( SipsnHeaderRetryAfter *hdr );
+PB_API void    sipsnHeaderRetryAfterDelDuration( SipsnHeaderRetryAfter **hdr );
+PB_API void    sipsnHeaderRetryAfterSetDuration( SipsnHeaderRetryAfter **hdr, int64_t deltaSeconds );
+
+PB_API SipsnGenericParams *sipsnHeaderRetryAfterGenericParams( SipsnHeaderRetryAfter *hdr );
+PB_API void sipsnHeaderRetryAfterSetGenericParams( SipsnHeaderRetryAfter **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,39 @@
+/* SipsnHeaderSessionId: the Session-ID header field, RFC 7989 section 5; the identifiers that the two ends give a
+ * session.
+ *
+ *     Session-ID = sess-uuid *( ";" ( "remote" "=" sess-uuid / generic-param ) )
+ *
+ *     local uuid       32 digits and lower-case letters; never absent
+ *     remote uuid      the same; optional
+ *     generic params   every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. Of several remote uuids the last counts; one that
+ * is no uuid is a generic parameter. Text behind the last parameter that no ";" begins is ignored. Getters return new
+ * references, or null when the member is absent. Setters and deleters replace *hdr by a private copy when it is shared.
+ * A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_SESSION_ID_H
+#define SIPSN_HEADER_SESSION_ID_H
+
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_sess_uuid.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderSessionId, sipsnHeaderSessionId )
+
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdCreate( PbString *sessUuid );
+
+PB_API PbString *sipsnHeaderSessionIdLocalUuid( SipsnHeaderSessionId *hdr );
+PB_API void      sipsnHeaderSessionIdSetLocalUuid( SipsnHeaderSessionId **hdr, PbString *sessUuid );
+
+PB_API PbString *sipsnHeaderSessionIdRemoteUuid( SipsnHeaderSessionId *hdr );
+PB_API bool      sipsnHeaderSessionIdHasRemoteUuid( SipsnHeaderSessionId *hdr );
+PB_API void      sipsnHeaderSessionIdDelRemoteUuid( SipsnHeaderSessionId **hdr );
+PB_API void      sipsnHeaderSessionIdSetRemoteUuid( SipsnHeaderSessionId **hdr, PbString *sessUuid );
+
+PB_API SipsnGenericParams *sipsnHeaderSessionIdGenericParams( SipsnHeaderSessionId *hdr );
+PB_API void sipsnHeaderSessionIdSetGenericParams( SipsnHeaderSessionId **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,72 @@
+// SipsnHeaderSupported: the Supported header field, RFC 3261 section 20.37.
+#include "sipsn_header_supported.h"
+
+#include "sipsn_header_frame.h"
+#include "sipsn_header_internal.h"
+#include "sipsn_skip_internal.h"
+#include "sipsn_token_frame.h"
+
+using sipsn::StringFrom;
+
+struct SipsnHeaderSupported
+{
+    PbObj   obj;
+    PbDict *items; // each to itself
+
+    using Members = pb::Members< &SipsnHeaderSupported::items >;
+};
+
+PbString *sipsn___PbsSupported;
+
+static constexpr sipsn::Set< SipsnHeaderSupported > shape{
+    .items  = &SipsnHeaderSupported::items,
+    .item   = sipsn___SkipOptionTag,
+    .stored = sipsn::LowerFromChars,
+};
+
+SIPSN_DEFINE_HEADER( SipsnHeaderSupported, sipsnHeaderSupported, SIPSN_HEADER_SUPPORTED, sipsn___PbsSupported, shape )
+
+static PbString *Key( PbString *optionTag )
+{
+    PB_ASSERT( sipsnOptionTagOk( optionTag ) );
+    return sipsnOptionTagNormalize( optionTag );
+}
+SIPSN_DEFINE_SET( SipsnHeaderSupported, sipsnHeaderSupported, OptionTags, OptionTag, optionTag, Key )
+
+SipsnHeaderSupported *sipsnHeaderSupportedCreate( void ) { return shape.Create(); }
+
+bool sipsnHeaderSupportedHasOptionTagCstr( SipsnHeaderSupported *hdr, const char *optionTag, int64_t optionTagLength )
+{
+    return sipsnHeaderSupportedHasOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+bool sipsnHeaderSupportedHasOptionTagWcstr( SipsnHeaderSupported *hdr, const wchar_t *optionTag,
+                                            int64_t optionTagLength )
+{
+    return sipsnHeaderSupportedHasOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+void sipsnHeaderSupportedSetOptionTagCstr( SipsnHeaderSupported **hdr, const char *optionTag, int64_t optionTagLength )
+{
+    sipsnHeaderSupportedSetOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+void sipsnHeaderSupportedSetOptionTagWcstr( SipsnHeaderSupported **hdr, const wchar_t *optionTag,
+                                            int64_t optionTagLength )
+{
+    sipsnHeaderSupportedSetOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+void sipsnHeaderSupportedDelOptionTagCstr( SipsnHeaderSupported **hdr, const char *optionTag, int64_t optionTagLength )
+{
+    sipsnHeaderSupportedDelOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+void sipsnHeaderSupportedDelOptionTagWcstr( SipsnHeaderSupported **hdr, const wchar_t *optionTag,
+                                            int64_t optionTagLength )
+{
+    sipsnHeaderSupportedDelOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
+}
+
+void sipsn___HeaderSupportedStartup( void ) { sipsn::CreateName( sipsn___PbsSupported, "Supported" ); }
+void sipsn___HeaderSupportedShutdown( void ) { sipsn::DropName( sipsn___PbsSupported ); }

@@ -1,0 +1,58 @@
+/* SipsnHeaderTo: the To header field, RFC 3261 section 20.39, with the epid of some endpoints; one address.
+ *
+ *     To = ( name-addr / addr-spec ) *( SEMI ( "tag" EQUAL token / "epid" EQUAL epid / generic-param ) )
+ *
+ *     iri             an IRI, converted from and to a URI on the wire; never absent
+ *     display name    free text, without quotes and escapes; optional
+ *     tag             a token, kept as written; optional
+ *     epid            1 to 16 token characters, kept as written; optional
+ *     generic params  every other parameter; never absent, may be empty
+ *
+ * The last line of the header field counts, and no line is no header. The parameters of a bare address are the header
+ * field's. The address is always written in angle brackets. On the wire a member that is present takes the place of a
+ * generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
+ * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+#ifndef SIPSN_HEADER_TO_H
+#define SIPSN_HEADER_TO_H
+
+#include "sipsn_display_name.h"
+#include "sipsn_epid.h"
+#include "sipsn_generic_params.h"
+#include "sipsn_header.h"
+#include "sipsn_iri.h"
+#include "sipsn_tag.h"
+
+struct SipsnHeaderFrom;
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderTo, sipsnHeaderTo )
+
+PB_API SipsnHeaderTo *sipsnHeaderToCreate( PbString *iri );
+
+/* The same address and parameters. The tag goes along: whoever begins a dialog deletes it. */
+PB_API SipsnHeaderTo *sipsnHeaderToCreateFromHeaderFrom( struct SipsnHeaderFrom *hdrFrom );
+
+PB_API PbString *sipsnHeaderToIri( SipsnHeaderTo *hdr );
+PB_API void      sipsnHeaderToSetIri( SipsnHeaderTo **hdr, PbString *iri );
+
+PB_API PbString *sipsnHeaderToDisplayName( SipsnHeaderTo *hdr );
+PB_API bool      sipsnHeaderToHasDisplayName( SipsnHeaderTo *hdr );
+PB_API void      sipsnHeaderToSetDisplayName( SipsnHeaderTo **hdr, PbString *displayName );
+PB_API void      sipsnHeaderToDelDisplayName( SipsnHeaderTo **hdr );
+
+PB_API PbString *sipsnHeaderToTag( SipsnHeaderTo *hdr );
+PB_API bool      sipsnHeaderToHasTag( SipsnHeaderTo *hdr );
+PB_API void      sipsnHeaderToSetTag( SipsnHeaderTo **hdr, PbString *tag );
+PB_API void      sipsnHeaderToDelTag( SipsnHeaderTo **hdr );
+
+PB_API PbString *sipsnHeaderToEpid( SipsnHeaderTo *hdr );
+PB_API bool      sipsnHeaderToHasEpid( SipsnHeaderTo *hdr );
+PB_API void      sipsnHeaderToSetEpid( SipsnHeaderTo **hdr, PbString *epid );
+PB_API void      sipsnHeaderToDelEpid( SipsnHeaderTo **hdr );
+
+PB_API SipsnGenericParams *sipsnHeaderToGenericParams( SipsnHeaderTo *hdr );
+PB_API void                sipsnHeaderToSetGenericParams( SipsnHeaderTo **hdr, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

@@ -1,0 +1,35 @@
+// SipsnHeaderUserAgent: the User-Agent header field, RFC 3261 section 20.41.
+#include "sipsn_header_user_agent.h"
+
+#include "sipsn_header_frame.h"
+#include "sipsn_header_internal.h"
+
+struct SipsnHeaderUserAgent
+{
+    PbObj     obj;
+    PbString *userAgent;
+
+    using Members = pb::Members< &SipsnHeaderUserAgent::userAgent >;
+};
+
+PbString *sipsn___PbsUserAgent;
+
+static constexpr sipsn::WholeLine< SipsnHeaderUserAgent > shape{ .text = &SipsnHeaderUserAgent::userAgent,
+                                                                 .ok   = sipsnUserAgentOk };
+
+SIPSN_DEFINE_HEADER( SipsnHeaderUserAgent, sipsnHeaderUserAgent, SIPSN_HEADER_USER_AGENT, sipsn___PbsUserAgent, shape )
+
+SipsnHeaderUserAgent *sipsnHeaderUserAgentCreate( PbString *userAgent )
+{
+    PB_ASSERT( sipsnUserAgentOk( userAgent ) );
+    return shape.Create( pb::Retain( userAgent ) );
+}
+
+PbString *sipsnHeaderUserAgentUserAgent( SipsnHeaderUserAgent *hdr ) { return PB_GET( hdr, userAgent ); }
+void      sipsnHeaderUserAgentSetUserAgent( SipsnHeaderUserAgent **hdr, PbString *userAgent )
+{
+    PB_SET( hdr, userAgent, sipsnUserAgentOk( userAgent ), pb::Retain( userAgent ) );
+}
+
+void sipsn___HeaderUserAgentStartup( void ) { sipsn::CreateName( sipsn___PbsUserAgent, "User-Agent" ); }
+void sipsn___HeaderUserAgentShutdown( void ) { sipsn::DropName( sipsn___PbsUserAgent ); }

@@ -1,0 +1,22 @@
+/* SipsnHeaderVia: the Via header field, RFC 3261 section 20.42; a list of via-parms.
+ *
+ * Each value is kept as its text and decoded when TryDecodeViaAt asks for it, which gives null when it is no via-parm.
+ * A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
+#ifndef SIPSN_HEADER_VIA_H
+#define SIPSN_HEADER_VIA_H
+
+#include "sipsn_header.h"
+#include "sipsn_via.h"
+
+PB_BEGIN_DECLS
+
+SIPSN_DECLARE_HEADER( SipsnHeaderVia, sipsnHeaderVia )
+
+PB_API SipsnHeaderVia *sipsnHeaderViaCreate( void );
+
+SIPSN_DECLARE_LIST( SipsnHeaderVia, sipsnHeaderVia, Vias, Via, SipsnVia, via )
+PB_API SipsnVia *sipsnHeaderViaTryDecodeViaAt( SipsnHeaderVia *hdr, int64_t index );
+PB_API void      sipsnHeaderViaClearVias( SipsnHeaderVia **hdr );
+
+PB_END_DECLS
+#endif

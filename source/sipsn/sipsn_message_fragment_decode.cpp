@@ -1,0 +1,363 @@
+// Decoding: the bytes of a message into a fragment.
+//
+// Lines are cut in the bytes, where CR, LF, ":" and blanks are always themselves, and each value is converted to text
+// once, straight into the string that keeps it. Text that is not well-formed UTF-8 fails wherever it stands: what is
+// not in a value is a name, a method or a version, which are ASCII.
+#include "sipsn_message_fragment.h"
+
+#include "sipsn_header_names.h"
+#include "sipsn_message_internal.h"
+#include "sipsn_method.h"
+#include "sipsn_token_internal.h"
+
+#include "iri/iri.h"
+
+#include <bit>
+#include <cstring>
+
+#if defined( __SSE2__ )
+#include <emmintrin.h>
+#endif
+
+namespace sipsn {
+
+namespace {
+
+// A run of bytes in the buffer.
+struct Bytes
+{
+    const PbByte *data   = nullptr;
+    int64_t       length = 0;
+
+    bool   Empty() const { return length == 0; }
+    PbByte Front() const { return data[ 0 ]; }
+    Bytes  From( int64_t index ) const { return { data + index, length - index }; }
+    Bytes  First( int64_t count ) const { return { data, count }; }
+};
+
+bool IsBlank( PbByte byte ) { return byte == ' ' || byte == '\t'; }
+
+inline Bytes Trim( Bytes text )
+{
+    while( !text.Empty() && IsBlank( text.Front() ) ) text = text.From( 1 );
+    while( !text.Empty() && IsBlank( text.data[ text.length - 1 ] ) ) --text.length;
+    return text;
+}
+
+int64_t Find( Bytes text, char wanted )
+{
+    const void *found = text.Empty() ? nullptr : std::memchr( text.data, wanted, size_t( text.length ) );
+    return found ? static_cast< const PbByte * >( found ) - text.data : -1;
+}
+
+// How many bytes stand before the first CR or LF.
+int64_t FindLineEnd( Bytes text )
+{
+    int64_t at = 0;
+#if defined( __SSE2__ )
+    const __m128i cr = _mm_set1_epi8( '\r' );
+    const __m128i lf = _mm_set1_epi8( '\n' );
+    for( ; at + 16 <= text.length; at += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast< const __m128i * >( text.data + at ) );
+        const int found = _mm_movemask_epi8( _mm_or_si128( _mm_cmpeq_epi8( block, cr ), _mm_cmpeq_epi8( block, lf ) ) );
+        if( found ) return at + __builtin_ctz( unsigned( found ) );
+    }
+#endif
+    while( at < text.length && text.data[ at ] != '\r' && text.data[ at ] != '\n' ) ++at;
+    return at;
+}
+
+// Takes one line off the front, with its line end: CR LF, a lone CR or a lone LF.
+Bytes TakeLine( Bytes &text )
+{
+    const int64_t length = FindLineEnd( text );
+    const Bytes   line   = text.First( length );
+    text                 = text.From( length );
+    if( !text.Empty() ) text = text.From( text.length > 1 && text.data[ 0 ] == '\r' && text.data[ 1 ] == '\n' ? 2 : 1 );
+    return line;
+}
+
+// The number that digits make; -1 when they are none, or make one above 999.
+int64_t ReadStatusCode( Bytes digits )
+{
+    int64_t code = digits.Empty() ? -1 : 0;
+    for( int64_t at = 0; at < digits.length && code >= 0; ++at ) {
+        const PbByte byte = digits.data[ at ];
+        code              = byte >= '0' && byte <= '9' ? code * 10 + ( byte - '0' ) : -1;
+        if( code > 999 ) code = -1;
+    }
+    return code;
+}
+
+SipsnVersion *TryDecodeVersion( Bytes text )
+{
+    if( text.length == 7 && std::memcmp( text.data, "SIP/2.0", 7 ) == 0 ) return sipsnVersionCreateSip20();
+    if( Find( text, '/' ) < 0 ) return nullptr;
+    pb::Ref string{ pb___StringTryCreateFromUtf8( text.data, text.length ) };
+    return string ? sipsn___VersionTryDecode( string->chs, string->length ) : nullptr;
+}
+
+enum class StartLine
+{
+    none,
+    read,
+    malformed
+};
+
+StartLine TryDecodeStatusLine( SipsnMessageFragment **frag, SipsnVersion *version, Bytes rest )
+{
+    const int64_t space = Find( rest, ' ' );
+    const int64_t code  = ReadStatusCode( space < 0 ? rest : rest.First( space ) );
+    if( !sipsnStatusCodeOk( code ) ) return StartLine::malformed;
+
+    const Bytes phrase = space < 0 ? Bytes{} : rest.From( space + 1 );
+    pb::Ref     escaped{ pb___StringTryCreateFromUtf8( phrase.data, phrase.length ) };
+    if( !escaped ) return StartLine::malformed;
+    pb::Ref reasonPhrase{ sipsn___ReasonPhraseDecode( escaped->chs, escaped->length ) };
+    sipsnMessageFragmentSetResponseWithReasonPhrase( frag, version, code, reasonPhrase.Get() );
+    return StartLine::read;
+}
+
+StartLine TryDecodeRequestLine( SipsnMessageFragment **frag, Bytes method, Bytes uri, Bytes versionText )
+{
+    pb::Ref methodString{ pb___StringTryCreateFromUtf8( method.data, method.length ) };
+    if( !methodString || !sipsnMethodOk( methodString.Get() ) ) return StartLine::none;
+    pb::Ref version{ TryDecodeVersion( versionText ) };
+    pb::Ref uriString{ pb___StringTryCreateFromUtf8( uri.data, uri.length ) };
+    if( !version || !uriString ) return StartLine::malformed;
+    pb::Ref iri{ iriTryConvertFromUri( uriString.Get() ) };
+    if( !iri ) return StartLine::malformed;
+    sipsnMessageFragmentSetRequest( frag, version.Get(), methodString.Get(), iri.Get() );
+    return StartLine::read;
+}
+
+// The status line is tried first, as a protocol version is no method. Pieces are cut at single spaces.
+StartLine TryDecodeStartLine( SipsnMessageFragment **frag, Bytes line )
+{
+    const int64_t firstSpace = Find( line, ' ' );
+    if( firstSpace < 0 ) return StartLine::none;
+    const Bytes first = line.First( firstSpace );
+    const Bytes rest  = line.From( firstSpace + 1 );
+    if( pb::Ref version{ TryDecodeVersion( first ) } ) return TryDecodeStatusLine( frag, version.Get(), rest );
+
+    const int64_t secondSpace = Find( rest, ' ' );
+    if( secondSpace < 0 ) return StartLine::none;
+    return TryDecodeRequestLine( frag, first, rest.First( secondSpace ), rest.From( secondSpace + 1 ) );
+}
+
+// The headers that are decoded so far: those of known names by the number of the name, which is their order, so that
+// they are found at once and come to the dictionary in its order. The others are in the dictionary from the start.
+class DecodedHeaders
+{
+public:
+    explicit DecodedHeaders( PbDict **headers ) : headers_{ headers } {}
+    DecodedHeaders( const DecodedHeaders & ) = delete;
+    ~DecodedHeaders()
+    {
+        ForEachKnown( [ & ]( int64_t number ) { pb::Release( known_[ number ] ); } );
+    }
+
+    // The value, whose reference is taken over, becomes the last line of the header of a known name.
+    void AddLine( int64_t number, PbString *value )
+    {
+        uint64_t      &word = present_[ number / 64 ];
+        const uint64_t bit  = uint64_t( 1 ) << ( number % 64 );
+        if( word & bit )
+            AppendLineOwned( known_[ number ], value );
+        else
+            known_[ number ] = CreateHeader( pb::Retain( HeaderNameAt( number ) ), value );
+        word |= bit;
+    }
+
+    // The same for the header of another name. The name's reference is taken over as well.
+    void AddLine( PbString *name, PbString *value )
+    {
+        if( PbObj **slot = pb___DictSlot( headers_, name ) ) {
+            AppendLineOwned( reinterpret_cast< SipsnMessageHeader * >( *slot ), value );
+            pb::Release( name );
+        } else
+            pb___DictSetOwned( headers_, name, pb::AsObj( CreateHeader( pb::Retain( name ), value ) ) );
+    }
+
+    // Whichever are fewer are inserted among the rest.
+    void MoveToDict()
+    {
+        const int64_t     knownCount = std::popcount( present_[ 0 ] ) + std::popcount( present_[ 1 ] );
+        const int64_t     otherCount = pbDictLength( *headers_ );
+        pb::Ref< PbDict > others;
+        if( otherCount <= knownCount )
+            others = pb::Ref{ std::exchange( *headers_, pb___DictCreateWithCapacity( knownCount + otherCount ) ) };
+        const auto insert = others ? pb___DictAppendOwned : pb___DictSetOwned; // numbers are in the order of names
+        ForEachKnown( [ & ]( int64_t number ) {
+            insert( headers_, pb::Retain( known_[ number ]->name ), pb::AsObj( known_[ number ] ) );
+        } );
+        present_[ 0 ] = present_[ 1 ] = 0;
+        for( int64_t at = 0; others && at < otherCount; ++at )
+            pb___DictSetOwned( headers_, pbDictKeyAt( others.Get(), at ), pbDictValueAt( others.Get(), at ) );
+    }
+
+private:
+    template< class Visit > void ForEachKnown( Visit visit )
+    {
+        for( int word = 0; word < 2; ++word )
+            for( uint64_t bits = present_[ word ]; bits != 0; bits &= bits - 1 )
+                visit( int64_t( word ) * 64 + std::countr_zero( bits ) );
+    }
+
+    static_assert( headerNameCount <= 128 );
+    uint64_t            present_[ 2 ] = {}; // one bit for each known name
+    SipsnMessageHeader *known_[ headerNameCount ];
+    PbDict            **headers_;
+};
+
+// One logical line, trimmed and not empty. Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
+bool TryDecodeField( DecodedHeaders &headers, Bytes field )
+{
+    const HeaderNameToken name = ScanHeaderName( field.data, field.length );
+    if( name.length == 0 ) return false;
+    Bytes rest = Trim( field.From( name.length ) );
+    if( rest.Empty() || rest.Front() != ':' ) return false;
+    rest = Trim( rest.From( 1 ) );
+
+    PbString *value = pb___StringTryCreateFromUtf8( rest.data, rest.length );
+    if( !value ) return false;
+    if( name.number >= 0 )
+        headers.AddLine( name.number, value );
+    else
+        headers.AddLine( CapitaliseHeaderName( field.data, name.length ), value );
+    return true;
+}
+
+// The field that is being gathered. Its bytes are those of its line as long as it has only one; a continuation line
+// makes it a copy, joined by one space whatever blanks stood there.
+class PendingField
+{
+public:
+    bool  Empty() const { return line_.Empty(); }
+    Bytes Text() const
+    {
+        return joined_ ? Bytes{ pbBufferBacking( joined_.Get() ), pbBufferLength( joined_.Get() ) } : line_;
+    }
+
+    void Start( Bytes line )
+    {
+        line_   = line;
+        joined_ = {};
+    }
+
+    void Continue( Bytes line )
+    {
+        if( !joined_ ) joined_ = pb::Ref{ pbBufferCreateFromBytesCopy( line_.data, line_.length ) };
+        pbBufferAppendBytes( joined_.Slot(), " ", 1 );
+        pbBufferAppendBytes( joined_.Slot(), line.data, line.length );
+    }
+
+private:
+    Bytes               line_;
+    pb::Ref< PbBuffer > joined_;
+};
+
+// A line that does not begin with a blank ends the field before it; so does an empty line.
+bool TryDecodeFields( DecodedHeaders &headers, Bytes text )
+{
+    PendingField pending;
+    while( !text.Empty() ) {
+        const Bytes line = TakeLine( text );
+        if( !pending.Empty() && ( line.Empty() || !IsBlank( line.Front() ) ) ) {
+            if( !TryDecodeField( headers, pending.Text() ) ) return false;
+            pending.Start( {} );
+        }
+        const Bytes trimmed = Trim( line );
+        if( trimmed.Empty() ) continue;
+        if( pending.Empty() )
+            pending.Start( trimmed );
+        else
+            pending.Continue( trimmed );
+    }
+    return pending.Empty() || TryDecodeField( headers, pending.Text() );
+}
+
+// Sets the value of the last Content-Length, -1 when there is none; false when it is no non-negative integer.
+bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
+{
+    SipsnMessageHeader *header = PeekContentLength( frag );
+    const int64_t       count  = header ? LineCount( header ) : 0;
+    if( count == 0 ) return true;
+
+    const PbString *line = PeekLine( header, count - 1 );
+    int64_t         value, charsRead;
+    if( !pbFormatTryDecodeIntChars( line->chs, line->length, 10, &value, &charsRead ) ) return false;
+    if( charsRead != line->length || value < 0 ) return false;
+    *contentLength = value;
+    return true;
+}
+
+} // namespace
+
+int64_t FindHeaderEnd( const PbByte *bytes, int64_t length, int64_t position )
+{
+    const auto endsAt = [ = ]( int64_t at ) { return std::memcmp( bytes + at, "\r\n\r\n", 4 ) == 0; };
+#if defined( __SSE2__ )
+    // A CR with another one two bytes on is rare enough to look closer.
+    const __m128i cr = _mm_set1_epi8( '\r' );
+    for( ; position + 16 + 3 <= length; position += 16 ) {
+        const auto load = [ & ]( int64_t at ) {
+            return _mm_loadu_si128( reinterpret_cast< const __m128i * >( bytes + at ) );
+        };
+        const __m128i both =
+            _mm_and_si128( _mm_cmpeq_epi8( load( position ), cr ), _mm_cmpeq_epi8( load( position + 2 ), cr ) );
+        for( unsigned found = unsigned( _mm_movemask_epi8( both ) ); found != 0; found &= found - 1 )
+            if( endsAt( position + std::countr_zero( found ) ) ) return position + std::countr_zero( found );
+    }
+#endif
+    for( ; position + 4 <= length; ++position )
+        if( endsAt( position ) ) return position;
+    return -1;
+}
+
+SipsnMessageFragment *TryDecodeHeaders( const PbByte *bytes, int64_t length, int64_t *contentLength )
+{
+    if( contentLength ) *contentLength = -1;
+
+    Bytes   text{ bytes, length };
+    Bytes   afterFirst = text;
+    pb::Ref frag{ sipsnMessageFragmentCreate() };
+    switch( TryDecodeStartLine( frag.Slot(), TakeLine( afterFirst ) ) ) {
+    case StartLine::malformed: return nullptr;
+    case StartLine::read: text = afterFirst; break;
+    case StartLine::none: break;
+    }
+    DecodedHeaders headers{ &frag->headers };
+    if( !TryDecodeFields( headers, text ) ) return nullptr;
+    headers.MoveToDict();
+    if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) return nullptr;
+    return frag.Detach();
+}
+
+} // namespace sipsn
+
+SipsnMessageFragment *sipsnMessageFragmentTryDecodeHeaders( PbBuffer *buf, int64_t *contentLength )
+{
+    PB_ASSERT( buf );
+    return sipsn::TryDecodeHeaders( pbBufferBacking( buf ), pbBufferLength( buf ), contentLength );
+}
+
+SipsnMessageFragment *sipsnMessageFragmentTryDecode( PbBuffer *buf )
+{
+    PB_ASSERT( buf );
+
+    const PbByte *bytes     = pbBufferBacking( buf );
+    const int64_t length    = pbBufferLength( buf );
+    const int64_t headerEnd = sipsn::FindHeaderEnd( bytes, length, 0 );
+    const int64_t bodyBegin = headerEnd < 0 ? length : headerEnd + 4;
+
+    int64_t contentLength;
+    pb::Ref frag{ sipsn::TryDecodeHeaders( bytes, headerEnd < 0 ? length : headerEnd + 2, &contentLength ) };
+    if( !frag ) return nullptr;
+
+    const int64_t available  = length - bodyBegin;
+    const int64_t bodyLength = contentLength < 0 ? available : contentLength;
+    if( bodyLength > available ) return nullptr;
+    if( bodyLength > 0 ) frag->body = pbBufferRead( buf, bodyBegin, bodyLength );
+    return frag.Detach();
+}

@@ -1,0 +1,51 @@
+// Free text that is written as a quoted string: what is valid, and the quoted form.
+#include "sipsn_quotable_string.h"
+
+#include "sipsn_skip_internal.h"
+#include "sipsn_token_frame.h"
+#include "sipsn_token_internal.h"
+
+static bool IsLineEnd( PbChar ch ) { return ch == '\r' || ch == '\n'; }
+
+bool sipsnQuotableStringOk( PbString *quotableString )
+{
+    PB_ASSERT( quotableString );
+    return std::ranges::none_of( sipsn::Characters( quotableString ), IsLineEnd );
+}
+
+PbString *sipsn___QuotableStringTryDecode( const PbChar *chs, int64_t length )
+{
+    PB_ASSERT( length >= 0 );
+    PB_ASSERT( chs || length == 0 );
+    if( !sipsn::Matches( chs, length, sipsn___SkipQuotedString ) ) return nullptr;
+
+    const int64_t begin = sipsn___SkipSws( chs, length ) + 1;
+    return sipsn::StringOf( [ = ]( auto put ) {
+        for( int64_t i = begin; i < length - 1; ++i ) {
+            if( chs[ i ] == '\\' ) ++i;
+            put( chs[ i ] );
+        }
+    } );
+}
+
+PbString *sipsn___QuotableStringEncode( PbString *quotableString )
+{
+    PB_ASSERT( sipsnQuotableStringOk( quotableString ) );
+
+    return sipsn::StringOf( [ = ]( auto put ) {
+        // Whoever folds white space takes several spaces for one, so that every second of a run is escaped.
+        bool afterPlainSpace = false;
+        put( '"' );
+        for( PbChar ch : sipsn::Characters( quotableString ) ) {
+            const bool space = ch == ' ';
+            if( space ? afterPlainSpace : ch < 33 || ch == '"' || ch == '\\' || ch == 127 ) {
+                put( '\\' );
+                afterPlainSpace = false;
+            } else {
+                afterPlainSpace = space;
+            }
+            put( ch );
+        }
+        put( '"' );
+    } );
+}

@@ -1,0 +1,38 @@
+/* SipsnRoute: one route-param of a Route, Record-Route or Service-Route header field, RFC 3261 sections 20.30
+ * and 20.34, RFC 3608.
+ *
+ *     route-param = name-addr *( SEMI generic-param )
+ *
+ *     iri              the address, an IRI (a URI on the wire); never absent
+ *     display name     free text without line ends; optional
+ *     generic params   the parameters behind the angle brackets; never absent, may be empty
+ *
+ * The ";lr" of "<sip:host;lr>" belongs to the address. Decoding also takes an address without angle brackets, which a
+ * ";" ends; they are always written.
+ *
+ * Getters return a new reference, or null when the member is absent. Setters and deleters replace *route by a private
+ * copy when it is shared. A null or invalid argument aborts. Values compare in the order above. */
+#ifndef SIPSN_ROUTE_H
+#define SIPSN_ROUTE_H
+
+#include "sipsn_generic_params.h"
+
+PB_BEGIN_DECLS
+
+PB_DECLARE_TYPE( SipsnRoute, sipsnRoute )
+
+PB_API SipsnRoute *sipsnRouteCreate( PbString *iri );
+
+PB_API PbString *sipsnRouteIri( SipsnRoute *route );
+PB_API void      sipsnRouteSetIri( SipsnRoute **route, PbString *iri );
+
+PB_API PbString *sipsnRouteDisplayName( SipsnRoute *route );
+PB_API bool      sipsnRouteHasDisplayName( SipsnRoute *route );
+PB_API void      sipsnRouteSetDisplayName( SipsnRoute **route, PbString *displayName );
+PB_API void      sipsnRouteDelDisplayName( SipsnRoute **route );
+
+PB_API SipsnGenericParams *sipsnRouteGenericParams( SipsnRoute *route );
+PB_API void                sipsnRouteSetGenericParams( SipsnRoute **route, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif

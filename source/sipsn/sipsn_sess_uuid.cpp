@@ -1,0 +1,32 @@
+// Session identifiers: what is valid, and the nil identifier.
+#include "sipsn_sess_uuid.h"
+
+#include "sipsn_skip_internal.h"
+#include "sipsn_token_frame.h"
+#include "sipsn_token_internal.h"
+
+static PbString *nilUuid;
+
+bool sipsnSessUuidOk( PbString *sessUuid )
+{
+    PB_ASSERT( sessUuid );
+    return sipsn::Matches( sessUuid, sipsn___SkipSessUuid );
+}
+
+PbString *spisnSessUuidNil( void ) { return pb::Retain( nilUuid ); }
+
+bool sipsnSessUuidIsNil( PbString *sessUuid )
+{
+    PB_ASSERT( sessUuid );
+    return pbStringEquals( sessUuid, nilUuid );
+}
+
+// ---- Start-up and shutdown -------------------------------------------------------------------------
+
+void sipsn___SessUuidStartup( void )
+{
+    nilUuid = nullptr;
+    nilUuid = pbStringCreateFromCstr( "00000000000000000000000000000000", -1 );
+}
+
+void sipsn___SessUuidShutdown( void ) { pb::ReleaseAndPoison( nilUuid ); }

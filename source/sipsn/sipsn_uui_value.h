@@ -1,0 +1,49 @@
+/* SipsnUuiValue: one uui-value of a User-to-User header field, RFC 7433 section 4.1.
+ *
+ *     uui-value = token *( SEMI ( ( "encoding" / "purpose" / "content" ) EQUAL token / generic-param ) )
+ *
+ *     uui data         a token, or a text without CR and LF; never absent
+ *     encoding         a token, case kept; optional
+ *     purpose          a token, case kept; optional
+ *     content          a token, case kept; optional
+ *     generic params   every other parameter; never absent, may be empty
+ *
+ * Data is on the wire as a token only: a value whose data is a quoted string does not decode, and data that is no token
+ * is left out when the value is written. A member that is present takes the place of a generic parameter of its name.
+ *
+ * Getters return a new reference, or null when the member is absent. Setters and deleters replace *value by a private
+ * copy when it is shared. A null or invalid argument aborts. Values compare in the order above. */
+#ifndef SIPSN_UUI_VALUE_H
+#define SIPSN_UUI_VALUE_H
+
+#include "sipsn_generic_params.h"
+
+PB_BEGIN_DECLS
+
+PB_DECLARE_TYPE( SipsnUuiValue, sipsnUuiValue )
+
+PB_API SipsnUuiValue *sipsnUuiValueCreate( PbString *uuiData );
+
+PB_API PbString *sipsnUuiValueUuiData( SipsnUuiValue *value );
+PB_API void      sipsnUuiValueSetUuiData( SipsnUuiValue **value, PbString *uuiData );
+
+PB_API PbString *sipsnUuiValueEncoding( SipsnUuiValue *value );
+PB_API bool      sipsnUuiValueHasEncoding( SipsnUuiValue *value );
+PB_API void      sipsnUuiValueSetEncoding( SipsnUuiValue **value, PbString *encoding );
+PB_API void      sipsnUuiValueDelEncoding( SipsnUuiValue **value );
+
+PB_API PbString *sipsnUuiValuePurpose( SipsnUuiValue *value );
+PB_API bool      sipsnUuiValueHasPurpose( SipsnUuiValue *value );
+PB_API void      sipsnUuiValueSetPurpose( SipsnUuiValue **value, PbString *purpose );
+PB_API void      sipsnUuiValueDelPurpose( SipsnUuiValue **value );
+
+PB_API PbString *sipsnUuiValueContent( SipsnUuiValue *value );
+PB_API bool      sipsnUuiValueHasContent( SipsnUuiValue *value );
+PB_API void      sipsnUuiValueSetContent( SipsnUuiValue **value, PbString *content );
+PB_API void      sipsnUuiValueDelContent( SipsnUuiValue **value );
+
+PB_API SipsnGenericParams *sipsnUuiValueGenericParams( SipsnUuiValue *value );
+PB_API void                sipsnUuiValueSetGenericParams( SipsnUuiValue **value, SipsnGenericParams *genericParams );
+
+PB_END_DECLS
+#endif
