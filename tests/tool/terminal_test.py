@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""terminal_test.py TOOL: what the tool writes when standard output is a terminal."""
+
+import os
+import pathlib
+import pty
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+TOOL = sys.argv[1]
+COLOUR = re.compile(rb"\x1b\[[0-9]{1,2}m")
+
+
+def on_terminal(*arguments, status=0, **variables):
+    ours, theirs = pty.openpty()
+    environment = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
+    environment.update({"TERM": "xterm", **variables})
+    process = subprocess.Popen([TOOL, *arguments], cwd=ROOT, env=environment, stdout=theirs, stdin=subprocess.DEVNULL)
+    os.close(theirs)
+    written = b""
+    while True:
+        try:
+            block = os.read(ours, 65536)
+        except OSError:  # how Linux ends a terminal
+            break
+        if not block:
+            break
+        written += block
+    os.close(ours)
+    assert process.wait(timeout=60) == status, (arguments, written)
+    return written.replace(b"\r\n", b"\n")  # the terminal's own doing
+
+
+def controls(text):
+    """Whatever acts on a terminal, line ends and C1 controls in UTF-8 included."""
+    return set(re.findall(rb"[\x00-\x09\x0b-\x1f\x7f]|\xc2[\x80-\x9f]|\xe2\x80[\xaa-\xae]", text))
+
+
+hostile = "examples/messages/hostile.sip"
+
+coloured = on_terminal("decode", hostile)
+assert COLOUR.search(coloured), "decode has colours on a terminal"
+assert not controls(COLOUR.sub(b"", coloured)), "and no control character but those"
+
+for variables in ({"NO_COLOR": "1"}, {"TERM": "dumb"}):
+    assert not controls(on_terminal("decode", hostile, **variables)), f"no colours with {variables}"
+
+commands = ((["encode"], 0), (["decode", "--json"], 0), (["check"], 1), (["split"], 0), (["reply", "200"], 0))
+for command, status in commands:
+    plain = COLOUR.sub(b"", on_terminal(*command, hostile, status=status))
+    assert plain and not controls(plain), f"{command} writes no control characters to a terminal"
+
+encoded = on_terminal("encode", hostile).decode()
+assert 'From: "\\x1B[2J\\x1B[31mBank\\x07" <sip:mallory@example.org>;tag=h1\n' in encoded, "encode shows them instead"

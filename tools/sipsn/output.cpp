@@ -1,0 +1,116 @@
+// Results on standard output, messages on standard error, trees and JSON.
+#include "output.h"
+
+#include "text.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+#include <utility>
+
+namespace tool {
+
+namespace {
+
+bool TerminalWantsColours( int file )
+{
+    const char *noColour = std::getenv( "NO_COLOR" );
+    const char *kind     = std::getenv( "TERM" );
+    return isatty( file ) && !( noColour && *noColour ) && !( kind && std::strcmp( kind, "dumb" ) == 0 );
+}
+
+const char *CodeOf( Ink ink )
+{
+    switch( ink ) {
+    case Ink::strong: return "\x1B[1m";
+    case Ink::name: return "\x1B[36m";
+    case Ink::note: return "\x1B[2m";
+    case Ink::good: return "\x1B[32m";
+    case Ink::bad: return "\x1B[31m";
+    }
+    return "";
+}
+
+void PrintNode( const Node &node, const std::string &before )
+{
+    for( const std::string &line : node.block ) {
+        if( !line.empty() ) Print( before + "   " );
+        PrintLine( line );
+    }
+    for( const Node &child : node.children ) {
+        const bool last = &child == &node.children.back();
+        Print( before );
+        Print( Paint( Ink::note, last ? "└─ " : "├─ " ) );
+        PrintLine( child.text );
+        PrintNode( child, before + ( last ? "   " : Paint( Ink::note, "│  " ) ) );
+    }
+}
+
+} // namespace
+
+void Print( std::string_view text ) { std::fwrite( text.data(), 1, text.size(), stdout ); }
+
+void PrintLine( std::string_view text )
+{
+    Print( text );
+    Print( "\n" );
+}
+
+void PrintJson( const Json &json )
+{
+    PrintLine( EscapeJson( json.dump( 2, ' ', false, Json::error_handler_t::replace ) ) );
+}
+
+void Complain( std::string_view place, std::string_view reason )
+{
+    std::fflush( stdout );
+    const std::string line = std::string( place ) + ": " + std::string( reason ) + '\n';
+    std::fwrite( line.data(), 1, line.size(), stderr );
+}
+
+bool FinishOutput()
+{
+    if( std::fflush( stdout ) == 0 && !std::ferror( stdout ) ) return true;
+    Complain( "standard output", std::strerror( errno ) );
+    return false;
+}
+
+bool OutputIsTerminal() { return isatty( STDOUT_FILENO ); }
+
+std::string Paint( Ink ink, std::string_view text )
+{
+    static const bool colours = TerminalWantsColours( STDOUT_FILENO );
+    if( !colours ) return std::string( text );
+    return CodeOf( ink ) + std::string( text ) + "\x1B[0m";
+}
+
+void PrintTree( const Node &root )
+{
+    PrintLine( root.text );
+    PrintNode( root, "" );
+}
+
+Node MakeNode( std::string_view label, const Json &value )
+{
+    Node node{ Paint( Ink::name, Escape( label ) ) };
+    if( value.is_object() ) {
+        for( const auto &[ name, member ] : value.items() ) node.children.push_back( MakeNode( name, member ) );
+    } else if( value.is_array() ) {
+        for( size_t at = 0; at < value.size(); ++at )
+            node.children.push_back( MakeNode( std::to_string( at + 1 ), value[ at ] ) );
+    } else if( !value.is_null() ) {
+        node.text += ": " + Escape( value.is_string() ? value.get< std::string >() : value.dump() );
+    }
+    return node;
+}
+
+Node MakeValueNode( std::string text, const Json &members )
+{
+    Node node = MakeNode( "", members );
+    node.text = std::move( text );
+    return node;
+}
+
+} // namespace tool

@@ -1,0 +1,64 @@
+// Results on standard output, messages on standard error, trees and JSON.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tool {
+
+using Json = nlohmann::ordered_json;
+
+// What a command ends with; the worst of what happened.
+enum Status
+{
+    allWell    = 0,
+    someFailed = 1,
+    cannotRun  = 2
+};
+
+inline void Worsen( Status &status, Status by ) { status = status < by ? by : status; }
+
+// Text goes to standard output as it is: what comes from a message has been through Escape.
+void Print( std::string_view text );
+void PrintLine( std::string_view text );
+void PrintJson( const Json &json );
+
+// "FILE:LINE: reason" on standard error.
+void Complain( std::string_view place, std::string_view reason );
+
+// Whether everything that was printed has been written; else says so.
+bool FinishOutput();
+
+bool OutputIsTerminal();
+
+// Colours for a terminal that wants them (NO_COLOR and TERM are heeded); anywhere else the text as it is.
+enum class Ink
+{
+    strong,
+    name,
+    note,
+    good,
+    bad
+};
+std::string Paint( Ink ink, std::string_view text );
+
+// A line of text, what hangs below it, and lines that are shown below it as they are.
+struct Node
+{
+    std::string                text     = {};
+    std::vector< Node >        children = {};
+    std::vector< std::string > block    = {};
+};
+void PrintTree( const Node &root );
+
+// "label: value", the label alone for null; with the members of an object and the items of an array as children.
+Node MakeNode( std::string_view label, const Json &value );
+
+// A text, fit to be printed, with the members that it was found to have below it.
+Node MakeValueNode( std::string text, const Json &members );
+
+} // namespace tool

@@ -1,0 +1,36 @@
+// Text of the libraries as UTF-8, and in a form that a terminal shows and does not obey.
+#pragma once
+
+#include "owned.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tool {
+
+std::string Utf8( const Owned< PbString > &text );
+
+// The bytes as they are.
+std::string_view Bytes( PbBuffer *buffer );
+
+Owned< PbBuffer > MakeBuffer( std::string_view bytes );
+
+// Null when the bytes are not UTF-8.
+Owned< PbString >            TryString( std::string_view bytes );
+std::optional< std::string > TryUtf8( std::string_view bytes );
+
+// Control characters, marks that turn the direction of writing and other characters without a shape as \n, \x1B or
+// \u202E, bytes that are no UTF-8 as \xFF. Everything else stays.
+std::string Escape( std::string_view utf8 );
+
+// The same with escapes that JSON knows, for JSON text, in which such characters stand within strings alone.
+std::string EscapeJson( std::string_view utf8 );
+
+// An escaped beginning of the text in quotes, for a message about it.
+std::string Quote( std::string_view bytes );
+
+// "1 byte", "2 bytes".
+std::string Count( int64_t number, std::string_view noun );
+
+} // namespace tool
