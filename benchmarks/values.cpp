@@ -1,0 +1,42 @@
+// One text of each type of value, with the parameters that such values usually have.
+#include "values.h"
+
+#include "pb/pb_frame.h"
+#include "sipsn/sipsn_skip_internal.h"
+#include "sipsn/sipsn_value_internal.h"
+
+namespace {
+
+template< auto tryDecode, auto encode > constexpr ValueSample SampleOf( const char *type, const char *text, Scan *scan )
+{
+    return {
+        type, text, scan, []( const PbChar *chs, int64_t length ) { return pb::AsObj( tryDecode( chs, length ) ); },
+        []( PbObj *value ) { return encode( reinterpret_cast< decltype( tryDecode( nullptr, 0 ) ) >( value ) ); } };
+}
+
+#define VALUE( Type, text )                                                                                            \
+    SampleOf< sipsn___##Type##TryDecode, sipsn___##Type##Encode >( #Type, text, sipsn___Skip##Type )
+
+constexpr ValueSample samples[] = {
+    VALUE( Accept, "application/sdp;level=1;q=0.5" ),
+    VALUE( AcceptEncoding, "gzip;q=0.8" ),
+    VALUE( AlertInfo, "<http://www.example.com/sounds/moo.wav>" ),
+    VALUE( CallInfo, "<http://www.example.com/alice/photo.jpg>;purpose=icon" ),
+    VALUE( Contact, "\"Mr. Watson\" <sip:watson@worcester.example.com:5060;transport=tcp>;q=0.7;expires=3600" ),
+    VALUE( Diversion, "\"Bob\" <sip:bob@example.com>;reason=user-busy;counter=1;privacy=off;screen=no" ),
+    VALUE( ErrorInfo, "<sip:not-in-service-recording@atlanta.example.com>" ),
+    VALUE( GenericParam, "transport=tcp" ),
+    VALUE( GenericParams, ";transport=tcp;lr;maddr=192.0.2.1;user=phone" ),
+    VALUE( HistoryInfo, "<sip:bob@192.0.2.4>;index=1.1;rc=1" ),
+    VALUE( IdentityValue, "\"Carol Smith\" <sip:carol@example.com>" ),
+    VALUE( Reason, "Q.850;cause=16;text=\"Terminated\"" ),
+    VALUE( Route, "<sip:p1.example.com;lr>" ),
+    VALUE( UuiValue, "56a390f3d2b7310023a2;encoding=hex;purpose=isdn-uui;content=isdn-uui" ),
+    VALUE( Via, "SIP/2.0/UDP bigbox3.site3.atlanta.example.com:5060;branch=z9hG4bK77ef4c2312983.1;received=192.0.2.1;"
+                "rport;ttl=16" ),
+    VALUE( WarningValue, "307 isi.edu \"Session parameter 'foo' not understood\"" ),
+};
+
+} // namespace
+
+std::span< const ValueSample > ValueSamples() { return samples; }
