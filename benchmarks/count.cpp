@@ -1,7 +1,7 @@
 // Runs one operation on one message or value so many times and nothing else, to be counted from outside:
 //
-//     sipsn_count decode|hold-decoded|encode|hold-encoded|round-trip|stream FILE TIMES
-//     sipsn_count scan-value|decode-value|hold-decoded-value|encode-value TYPE TIMES
+//     sipsn_count [hold-]decode|encode|full|reply|round-trip|stream FILE TIMES
+//     sipsn_count [hold-]scan-value|decode-value|encode-value TYPE TIMES
 //
 // To hold is to release what was made only at the end, so that no memory is used again.
 #include "samples.h"
@@ -11,41 +11,46 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
 
-template< class Operation > bool Repeat( int64_t times, Operation operation )
+struct Runs
 {
-    for( int64_t n = 0; n < times; ++n ) operation();
-    return true;
-}
+    int64_t times;
+    bool    hold; // what is made, to the end; it is released at once otherwise
 
-template< class Make > bool Hold( int64_t times, Make make )
-{
-    using Made = decltype( make() );
-    std::vector< Made > held;
-    held.reserve( size_t( times ) );
-    return Repeat( times, [ & ] { held.push_back( make() ); } );
-}
+    template< class Make > bool operator()( Make make ) const
+    {
+        std::vector< decltype( make() ) > held;
+        held.reserve( size_t( times ) );
+        for( int64_t n = 0; n < times; ++n ) {
+            auto made = make();
+            if( hold ) held.push_back( std::move( made ) );
+        }
+        return true;
+    }
+};
 
-// False for an unknown operation and for bytes that do not decode.
-bool RunOnMessage( std::string_view operation, PbBuffer *wire, int64_t times )
+// False for an unknown operation, for bytes that do not decode, and for a reply to a response.
+bool RunOnMessage( std::string_view operation, PbBuffer *wire, Runs runs )
 {
-    pb::Ref message{ sipsnMessageTryDecode( wire ) };
+    pb::Ref message = Decode( wire );
     if( !message ) return false;
-    if( operation == "decode" ) return Repeat( times, [ & ] { Decode( wire ); } );
-    if( operation == "encode" ) return Repeat( times, [ & ] { Encode( message.Get() ); } );
-    if( operation == "hold-decoded" ) return Hold( times, [ & ] { return pb::Ref{ sipsnMessageTryDecode( wire ) }; } );
-    if( operation == "hold-encoded" )
-        return Hold( times, [ & ] { return pb::Ref{ sipsnMessageEncode( message.Get() ) }; } );
-    if( operation == "round-trip" ) return Repeat( times, [ & ] { RoundTrip( wire ); } );
-    if( operation == "stream" ) return Repeat( times, [ & ] { Stream( wire ); } );
+    pb::Ref tag{ pbStringCreateFromCstr( "a73kszlfl", -1 ) };
+    if( operation == "decode" ) return runs( [ & ] { return Decode( wire ); } );
+    if( operation == "encode" ) return runs( [ & ] { return Encode( message.Get() ); } );
+    if( operation == "full" ) return runs( [ & ] { return DecodeFull( wire ); } );
+    if( operation == "reply" && sipsnMessageIsRequest( message.Get() ) )
+        return runs( [ & ] { return Reply( message.Get(), tag.Get() ); } );
+    if( operation == "round-trip" ) return runs( [ & ] { return RoundTrip( wire ); } );
+    if( operation == "stream" ) return runs( [ & ] { return Stream( wire ); } );
     return false;
 }
 
 // The same for a type of value, and the operation without its ending.
-bool RunOnValue( std::string_view operation, const ValueSample &sample, int64_t times )
+bool RunOnValue( std::string_view operation, const ValueSample &sample, Runs runs )
 {
     pb::Ref       text{ pbStringCreateFromCstr( sample.text, -1 ) };
     const PbChar *chs    = pbStringBacking( text.Get() );
@@ -53,25 +58,25 @@ bool RunOnValue( std::string_view operation, const ValueSample &sample, int64_t 
     const auto    decode = [ & ] { return pb::Ref{ sample.tryDecode( chs, length ) }; };
     pb::Ref       value  = decode();
     if( !value || sample.scan( chs, length ) != length ) return false;
-    const auto encode = [ & ] { return pb::Ref{ sample.encode( value.Get() ) }; };
-    if( operation == "scan" ) return Repeat( times, [ & ] { sample.scan( chs, length ); } );
-    if( operation == "decode" ) return Repeat( times, decode );
-    if( operation == "encode" ) return Repeat( times, encode );
-    if( operation == "hold-decoded" ) return Hold( times, decode );
+    if( operation == "scan" ) return runs( [ & ] { return sample.scan( chs, length ); } );
+    if( operation == "decode" ) return runs( decode );
+    if( operation == "encode" ) return runs( [ & ] { return pb::Ref{ sample.encode( value.Get() ) }; } );
     return false;
 }
 
 bool Run( std::string_view operation, std::string_view subject, int64_t times )
 {
-    constexpr std::string_view ending = "-value";
+    constexpr std::string_view prefix = "hold-", ending = "-value";
+    const Runs                 runs{ times, operation.starts_with( prefix ) };
+    if( runs.hold ) operation.remove_prefix( prefix.size() );
     if( !operation.ends_with( ending ) ) {
         pb::Ref wire = ReadFile( subject );
-        return wire && RunOnMessage( operation, wire.Get(), times );
+        return wire && RunOnMessage( operation, wire.Get(), runs );
     }
     operation.remove_suffix( ending.size() );
     const auto samples = ValueSamples();
     const auto sample  = std::ranges::find( samples, subject, &ValueSample::type );
-    return sample != samples.end() && RunOnValue( operation, *sample, times );
+    return sample != samples.end() && RunOnValue( operation, *sample, runs );
 }
 
 } // namespace
@@ -79,8 +84,8 @@ bool Run( std::string_view operation, std::string_view subject, int64_t times )
 int main( int argc, char **argv )
 {
     if( argc != 4 ) {
-        std::fputs( "sipsn_count decode|hold-decoded|encode|hold-encoded|round-trip|stream FILE TIMES\n"
-                    "sipsn_count scan-value|decode-value|hold-decoded-value|encode-value TYPE TIMES\n",
+        std::fputs( "sipsn_count [hold-]decode|encode|full|reply|round-trip|stream FILE TIMES\n"
+                    "sipsn_count [hold-]scan-value|decode-value|encode-value TYPE TIMES\n",
                     stderr );
         return 2;
     }

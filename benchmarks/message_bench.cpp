@@ -1,5 +1,5 @@
-// Whole messages: decode, encode, round trip and stream, beside two floors: what it takes to copy the bytes, and to
-// widen them to the 32 bits that a character of text has.
+// Whole messages: decode, encode, round trip, decode with typed header fields, reply and stream, beside two floors:
+// what it takes to copy the bytes, and to widen them to the 32 bits that a character of text has.
 #include "measure.h"
 #include "samples.h"
 
@@ -27,6 +27,13 @@ void FloorWiden( benchmark::State &state, PbBuffer *wire )
     } );
 }
 
+// What needs bytes that decode.
+template< auto operation > void MeasureDecoded( benchmark::State &state, PbBuffer *wire )
+{
+    if( !Decode( wire ) ) return state.SkipWithError( "does not decode" );
+    MeasureBytes( state, pbBufferLength( wire ), [ = ] { operation( wire ); } );
+}
+
 void MeasureDecode( benchmark::State &state, PbBuffer *wire )
 {
     MeasureBytes( state, pbBufferLength( wire ), [ = ] { Decode( wire ); } );
@@ -34,16 +41,19 @@ void MeasureDecode( benchmark::State &state, PbBuffer *wire )
 
 void MeasureEncode( benchmark::State &state, PbBuffer *wire )
 {
-    pb::Ref message{ sipsnMessageTryDecode( wire ) };
+    pb::Ref message = Decode( wire );
     if( !message ) return state.SkipWithError( "does not decode" );
-    pb::Ref encoded{ sipsnMessageEncode( message.Get() ) };
+    pb::Ref encoded = Encode( message.Get() );
     MeasureBytes( state, pbBufferLength( encoded.Get() ), [ & ] { Encode( message.Get() ); } );
 }
 
-void MeasureRoundTrip( benchmark::State &state, PbBuffer *wire )
+void MeasureReply( benchmark::State &state, PbBuffer *wire )
 {
-    if( !pb::Ref{ sipsnMessageTryDecode( wire ) } ) return state.SkipWithError( "does not decode" );
-    MeasureBytes( state, pbBufferLength( wire ), [ = ] { RoundTrip( wire ); } );
+    pb::Ref request = Decode( wire );
+    if( !request || !sipsnMessageIsRequest( request.Get() ) ) return state.SkipWithError( "is no request" );
+    pb::Ref tag{ pbStringCreateFromCstr( "a73kszlfl", -1 ) };
+    pb::Ref encoded = Reply( request.Get(), tag.Get() );
+    MeasureBytes( state, pbBufferLength( encoded.Get() ), [ & ] { Reply( request.Get(), tag.Get() ); } );
 }
 
 void MeasureStream( benchmark::State &state, PbBuffer *wire )
@@ -57,8 +67,14 @@ struct Kind
     void ( *measure )( benchmark::State &state, PbBuffer *wire );
 };
 constexpr Kind kinds[] = {
-    { "FloorCopy", FloorCopy },  { "FloorWiden", FloorWiden },      { "Decode", MeasureDecode },
-    { "Encode", MeasureEncode }, { "RoundTrip", MeasureRoundTrip }, { "Stream", MeasureStream },
+    { "FloorCopy", FloorCopy },
+    { "FloorWiden", FloorWiden },
+    { "Decode", MeasureDecode },
+    { "Encode", MeasureEncode },
+    { "RoundTrip", MeasureDecoded< RoundTrip > },
+    { "Full", MeasureDecoded< DecodeFull > },
+    { "Reply", MeasureReply },
+    { "Stream", MeasureStream },
 };
 
 // Registered by file, so that what is compared stands together. Files are read when their benchmark runs, as buffers

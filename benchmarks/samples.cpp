@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 std::vector< Sample > Samples()
 {
@@ -29,14 +30,53 @@ pb::Ref< PbBuffer > BufferOf( std::string_view bytes )
     return pb::Ref{ pbBufferCreateFromBytesCopy( bytes.data(), int64_t( bytes.size() ) ) };
 }
 
-void Decode( PbBuffer *wire ) { pb::Ref message{ sipsnMessageTryDecode( wire ) }; }
+pb::Ref< SipsnMessage > Decode( PbBuffer *wire ) { return pb::Ref{ sipsnMessageTryDecode( wire ) }; }
 
-void Encode( SipsnMessage *message ) { pb::Ref wire{ sipsnMessageEncode( message ) }; }
+pb::Ref< PbBuffer > Encode( SipsnMessage *message ) { return pb::Ref{ sipsnMessageEncode( message ) }; }
 
-void RoundTrip( PbBuffer *wire )
+pb::Ref< PbBuffer > RoundTrip( PbBuffer *wire ) { return Encode( Decode( wire ).Get() ); }
+
+FullMessage DecodeFull( PbBuffer *wire )
 {
     pb::Ref message{ sipsnMessageTryDecode( wire ) };
-    Encode( message.Get() );
+    if( !message ) return {};
+    SipsnMessage *const msg = message.Get();
+
+    pb::Ref                            via{ sipsnHeaderViaTryDecodeFromMessage( msg ) };
+    std::vector< pb::Ref< SipsnVia > > vias;
+    const int64_t                      count = via ? sipsnHeaderViaViasLength( via.Get() ) : 0;
+    vias.reserve( size_t( count ) );
+    for( int64_t at = 0; at < count; ++at ) vias.push_back( pb::Ref{ sipsnHeaderViaTryDecodeViaAt( via.Get(), at ) } );
+
+    return { .message        = std::move( message ),
+             .via            = std::move( via ),
+             .vias           = std::move( vias ),
+             .from           = pb::Ref{ sipsnHeaderFromTryDecodeFromMessage( msg ) },
+             .to             = pb::Ref{ sipsnHeaderToTryDecodeFromMessage( msg ) },
+             .callId         = pb::Ref{ sipsnHeaderCallIdTryDecodeFromMessage( msg ) },
+             .cseq           = pb::Ref{ sipsnHeaderCseqTryDecodeFromMessage( msg ) },
+             .contact        = pb::Ref{ sipsnHeaderContactTryDecodeFromMessage( msg ) },
+             .route          = pb::Ref{ sipsnHeaderRouteTryDecodeFromMessage( msg ) },
+             .recordRoute    = pb::Ref{ sipsnHeaderRecordRouteTryDecodeFromMessage( msg ) },
+             .maxForwards    = pb::Ref{ sipsnHeaderMaxForwardsTryDecodeFromMessage( msg ) },
+             .allow          = pb::Ref{ sipsnHeaderAllowTryDecodeFromMessage( msg ) },
+             .supported      = pb::Ref{ sipsnHeaderSupportedTryDecodeFromMessage( msg ) },
+             .sessionExpires = pb::Ref{ sipsnHeaderSessionExpiresTryDecodeFromMessage( msg ) },
+             .event          = pb::Ref{ sipsnHeaderEventTryDecodeFromMessage( msg ) } };
+}
+
+pb::Ref< PbBuffer > Reply( SipsnMessage *request, PbString *tag )
+{
+    pb::Ref version{ sipsnMessageVersion( request ) };
+    pb::Ref response{ sipsnMessageCreateResponse( version.Get(), 200 ) };
+    if( pb::Ref to{ sipsnHeaderToTryDecodeFromMessage( request ) } ) {
+        if( !sipsnHeaderToHasTag( to.Get() ) ) sipsnHeaderToSetTag( to.Slot(), tag );
+        sipsnHeaderToEncodeToMessage( to.Get(), response.Slot() );
+    }
+    for( const char *name : { "Via", "From", "Call-Id", "Cseq", "Record-Route" } )
+        if( pb::Ref header{ sipsnMessageHeaderCstr( request, name, -1 ) } )
+            sipsnMessageSetHeader( response.Slot(), header.Get() );
+    return pb::Ref{ sipsnMessageEncode( response.Get() ) };
 }
 
 int64_t Stream( PbBuffer *wire )

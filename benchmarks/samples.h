@@ -23,10 +23,33 @@ pb::Ref< PbBuffer > ReadFile( const std::filesystem::path &path );
 
 pb::Ref< PbBuffer > BufferOf( std::string_view bytes );
 
-// Each operation releases what it makes.
-void Decode( PbBuffer *wire );
-void Encode( SipsnMessage *message );
-void RoundTrip( PbBuffer *wire ); // of bytes that decode
+pb::Ref< SipsnMessage > Decode( PbBuffer *wire );
+pb::Ref< PbBuffer >     Encode( SipsnMessage *message );
+pb::Ref< PbBuffer >     RoundTrip( PbBuffer *wire ); // of bytes that decode
+
+// A message with what a proxy or a phone reads of it, each header field in its type. What is absent is no reference.
+struct FullMessage
+{
+    pb::Ref< SipsnMessage >              message;
+    pb::Ref< SipsnHeaderVia >            via;
+    std::vector< pb::Ref< SipsnVia > >   vias; // all values of via
+    pb::Ref< SipsnHeaderFrom >           from;
+    pb::Ref< SipsnHeaderTo >             to;
+    pb::Ref< SipsnHeaderCallId >         callId;
+    pb::Ref< SipsnHeaderCseq >           cseq;
+    pb::Ref< SipsnHeaderContact >        contact;
+    pb::Ref< SipsnHeaderRoute >          route;
+    pb::Ref< SipsnHeaderRecordRoute >    recordRoute;
+    pb::Ref< SipsnHeaderMaxForwards >    maxForwards;
+    pb::Ref< SipsnHeaderAllow >          allow;
+    pb::Ref< SipsnHeaderSupported >      supported;
+    pb::Ref< SipsnHeaderSessionExpires > sessionExpires;
+    pb::Ref< SipsnHeaderEvent >          event;
+};
+FullMessage DecodeFull( PbBuffer *wire );
+
+// The encoded 200 (OK) to a request: Via, From, Call-Id, Cseq and Record-Route copied, To with a tag.
+pb::Ref< PbBuffer > Reply( SipsnMessage *request, PbString *tag );
 
 // Writes the bytes to a new stream decoder at once and reads until there is no more; answers how many messages came.
 int64_t Stream( PbBuffer *wire );
