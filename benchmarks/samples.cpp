@@ -42,27 +42,26 @@ FullMessage DecodeFull( PbBuffer *wire )
     if( !message ) return {};
     SipsnMessage *const msg = message.Get();
 
-    pb::Ref                            via{ sipsnHeaderViaTryDecodeFromMessage( msg ) };
-    std::vector< pb::Ref< SipsnVia > > vias;
-    const int64_t                      count = via ? sipsnHeaderViaViasLength( via.Get() ) : 0;
-    vias.reserve( size_t( count ) );
-    for( int64_t at = 0; at < count; ++at ) vias.push_back( pb::Ref{ sipsnHeaderViaTryDecodeViaAt( via.Get(), at ) } );
-
-    return { .message        = std::move( message ),
-             .via            = std::move( via ),
-             .vias           = std::move( vias ),
-             .from           = pb::Ref{ sipsnHeaderFromTryDecodeFromMessage( msg ) },
-             .to             = pb::Ref{ sipsnHeaderToTryDecodeFromMessage( msg ) },
-             .callId         = pb::Ref{ sipsnHeaderCallIdTryDecodeFromMessage( msg ) },
-             .cseq           = pb::Ref{ sipsnHeaderCseqTryDecodeFromMessage( msg ) },
-             .contact        = pb::Ref{ sipsnHeaderContactTryDecodeFromMessage( msg ) },
-             .route          = pb::Ref{ sipsnHeaderRouteTryDecodeFromMessage( msg ) },
-             .recordRoute    = pb::Ref{ sipsnHeaderRecordRouteTryDecodeFromMessage( msg ) },
-             .maxForwards    = pb::Ref{ sipsnHeaderMaxForwardsTryDecodeFromMessage( msg ) },
-             .allow          = pb::Ref{ sipsnHeaderAllowTryDecodeFromMessage( msg ) },
-             .supported      = pb::Ref{ sipsnHeaderSupportedTryDecodeFromMessage( msg ) },
-             .sessionExpires = pb::Ref{ sipsnHeaderSessionExpiresTryDecodeFromMessage( msg ) },
-             .event          = pb::Ref{ sipsnHeaderEventTryDecodeFromMessage( msg ) } };
+    FullMessage full;
+    full.via = pb::Ref{ sipsnHeaderViaTryDecodeFromMessage( msg ) };
+    for( int64_t at = 0, count = full.via ? sipsnHeaderViaViasLength( full.via.Get() ) : 0; at < count; ++at ) {
+        pb::Ref via{ sipsnHeaderViaTryDecodeViaAt( full.via.Get(), at ) };
+        if( size_t( at ) < full.vias.size() ) full.vias[ size_t( at ) ] = std::move( via );
+    }
+    full.from           = pb::Ref{ sipsnHeaderFromTryDecodeFromMessage( msg ) };
+    full.to             = pb::Ref{ sipsnHeaderToTryDecodeFromMessage( msg ) };
+    full.callId         = pb::Ref{ sipsnHeaderCallIdTryDecodeFromMessage( msg ) };
+    full.cseq           = pb::Ref{ sipsnHeaderCseqTryDecodeFromMessage( msg ) };
+    full.contact        = pb::Ref{ sipsnHeaderContactTryDecodeFromMessage( msg ) };
+    full.route          = pb::Ref{ sipsnHeaderRouteTryDecodeFromMessage( msg ) };
+    full.recordRoute    = pb::Ref{ sipsnHeaderRecordRouteTryDecodeFromMessage( msg ) };
+    full.maxForwards    = pb::Ref{ sipsnHeaderMaxForwardsTryDecodeFromMessage( msg ) };
+    full.allow          = pb::Ref{ sipsnHeaderAllowTryDecodeFromMessage( msg ) };
+    full.supported      = pb::Ref{ sipsnHeaderSupportedTryDecodeFromMessage( msg ) };
+    full.sessionExpires = pb::Ref{ sipsnHeaderSessionExpiresTryDecodeFromMessage( msg ) };
+    full.event          = pb::Ref{ sipsnHeaderEventTryDecodeFromMessage( msg ) };
+    full.message        = std::move( message );
+    return full;
 }
 
 pb::Ref< PbBuffer > Reply( SipsnMessage *request, PbString *tag )

@@ -5,6 +5,7 @@
 
 #include "pb/pb_frame.h"
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -32,7 +33,7 @@ struct FullMessage
 {
     pb::Ref< SipsnMessage >              message;
     pb::Ref< SipsnHeaderVia >            via;
-    std::vector< pb::Ref< SipsnVia > >   vias; // all values of via
+    std::array< pb::Ref< SipsnVia >, 8 > vias; // all values are decoded, and the first of them kept
     pb::Ref< SipsnHeaderFrom >           from;
     pb::Ref< SipsnHeaderTo >             to;
     pb::Ref< SipsnHeaderCallId >         callId;

@@ -24,7 +24,11 @@ function( sipsn_component name )
     add_library( ${name} SHARED ${sources} )
     target_link_libraries( ${name} PRIVATE sipsn_options PUBLIC ${component_LIBRARIES} )
     target_compile_options( ${name} PRIVATE -fvisibility=hidden -fvisibility-inlines-hidden -Wmissing-declarations
-                                            -fno-exceptions -fno-rtti -fno-semantic-interposition )
+                                            -fno-exceptions -fno-rtti -fno-semantic-interposition -fno-plt )
+    # -O3 inlines and unrolls the scanners' short loops: one instruction in twenty of a message that is fully decoded.
+    if( NOT SIPSN_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug" )
+        target_compile_options( ${name} PRIVATE -O3 )
+    endif()
     target_include_directories( ${name} INTERFACE $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/source>
                                                   $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}> )
 

@@ -1,9 +1,8 @@
 // The character classes of RFC 3986 and RFC 3987, for the sources of iri. C++ only; never installed.
 #pragma once
 
-#include "pb/pb_types.h"
+#include "pb/pb_scan.h"
 
-#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -24,9 +23,9 @@ enum Class : uint16_t
     ClassFragment = 256, // pchar, "/" and "?"
 };
 
-inline constexpr std::array< uint16_t, 128 > classes = [] {
-    std::array< uint16_t, 128 > table{};
-    const auto                  add = [ &table ]( std::string_view characters, int mask ) {
+inline constexpr pb::ClassTable< uint16_t > classes = [] {
+    pb::ClassTable< uint16_t > table{};
+    const auto                 add = [ &table ]( std::string_view characters, int mask ) {
         for( char ch : characters ) table[ size_t( ch ) ] = uint16_t( table[ size_t( ch ) ] | mask );
     };
     const int fragment = ClassFragment;
@@ -48,7 +47,7 @@ inline constexpr std::array< uint16_t, 128 > classes = [] {
     return table;
 }();
 
-inline bool Is( PbChar ch, int mask ) { return uint32_t( ch ) < 128 && ( classes[ size_t( ch ) ] & mask ) != 0; }
+inline bool Is( PbChar ch, uint16_t mask ) { return pb::IsIn( classes, mask, ch ); }
 
 // The value of a hexadecimal digit, or -1.
 inline int HexValue( PbChar ch )

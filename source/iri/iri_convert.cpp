@@ -105,10 +105,21 @@ bool Unescape( const PbChar *at, const PbChar *end, Output &output )
     return changed;
 }
 
+// Whether there is a character that Unescape can replace. To the end in any case, so that it is done several at a time.
+bool MayChange( const PbChar *begin, const PbChar *end )
+{
+    uint32_t bits = 0, percent = 0;
+    for( const PbChar *at = begin; at != end; ++at ) {
+        bits |= uint32_t( *at );
+        percent |= uint32_t( *at == '%' );
+    }
+    return bits >= 0x80 || percent != 0;
+}
+
 // The IRI of a valid URI; null when nothing changes.
 PbString *Converted( const PbChar *begin, const PbChar *end )
 {
-    if( std::none_of( begin, end, []( PbChar ch ) { return ch == '%' || ch >= 0x80; } ) ) return nullptr;
+    if( !MayChange( begin, end ) ) return nullptr;
     Output count;
     if( !Unescape( begin, end, count ) ) return nullptr;
     PbString *iri = pb___StringCreateUninitialized( count.length );

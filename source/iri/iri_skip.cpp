@@ -11,14 +11,13 @@ namespace {
 bool StartsWith( const PbChar *at, const PbChar *end, PbChar ch ) { return at != end && *at == ch; }
 
 // The end of the run of characters of one ASCII class from `at`.
-const PbChar *SkipAscii( const PbChar *at, const PbChar *end, int mask )
+const PbChar *SkipAscii( const PbChar *at, const PbChar *end, uint16_t mask )
 {
-    while( at != end && iri::Is( *at, mask ) ) ++at;
-    return at;
+    return at + pb::CountRun< true >( iri::classes, mask, at, end - at );
 }
 
 // The same with percent escapes and ucschar; `privateToo` adds iprivate.
-template< int mask, bool privateToo = false > const PbChar *SkipRun( const PbChar *at, const PbChar *end )
+template< uint16_t mask, bool privateToo = false > const PbChar *SkipRun( const PbChar *at, const PbChar *end )
 {
     for( ;; ) {
         at = SkipAscii( at, end, mask );

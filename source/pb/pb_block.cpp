@@ -33,11 +33,6 @@ void Open()
 
 } // namespace
 
-void *AllocateNewBlock( size_t blockClass, int64_t size )
-{
-    return pbMemAllocN( 1, blockClass == 0 ? size : int64_t( blockClass * blockGranule ) );
-}
-
 void FreeUnkeptBlock( void *block, uint32_t blockClass )
 {
     if( blockClass == 0 || keptBlocks.opened ) return pbMemFree( block );
@@ -48,3 +43,10 @@ void FreeUnkeptBlock( void *block, uint32_t blockClass )
 } // namespace pb
 
 #endif
+
+PbObj *pb::CreateInNewBlock( int64_t size, PbSort *sort )
+{
+    const size_t wanted = BlockClass( size );
+    if( !PB_KEEP_BLOCKS || wanted > blockClassCount ) return InitObject( pbMemAllocN( 1, size ), sort, 0 );
+    return InitObject( pbMemAllocN( 1, int64_t( wanted * blockGranule ) ), sort, uint32_t( wanted ) );
+}

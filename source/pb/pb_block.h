@@ -46,19 +46,15 @@ struct KeptBlocks
 // Trivial, so that reaching it takes no guard.
 [[gnu::tls_model( "initial-exec" )]] extern constinit thread_local KeptBlocks keptBlocks;
 
-// A block of that class when none is kept, and one that cannot be kept.
-void *AllocateNewBlock( size_t blockClass, int64_t size );
-void  FreeUnkeptBlock( void *block, uint32_t blockClass );
+void FreeUnkeptBlock( void *block, uint32_t blockClass ); // one that cannot be kept
 
-// A block of at least `size` bytes for an object, and in *blockClass what FreeBlock needs to know about it.
-inline void *AllocateBlock( int64_t size, uint32_t *blockClass )
+// A kept block of the class, or null.
+inline void *TryTakeBlock( size_t blockClass )
 {
-    const size_t wanted = BlockClass( size );
-    *blockClass         = wanted <= blockClassCount ? uint32_t( wanted ) : 0;
-    KeptBlock *block    = wanted <= blockClassCount ? keptBlocks.first[ wanted ] : nullptr;
-    if( !block ) return AllocateNewBlock( *blockClass, size );
-    keptBlocks.first[ wanted ] = block->next;
-    ++keptBlocks.room[ wanted ];
+    KeptBlock *block = blockClass <= blockClassCount ? keptBlocks.first[ blockClass ] : nullptr;
+    if( !block ) return nullptr;
+    keptBlocks.first[ blockClass ] = block->next;
+    ++keptBlocks.room[ blockClass ];
     return block;
 }
 
@@ -74,14 +70,29 @@ inline void FreeBlock( void *block, uint32_t blockClass )
 
 #else
 
-inline void *AllocateBlock( int64_t size, uint32_t *blockClass )
-{
-    *blockClass = 0;
-    return pbMemAllocN( 1, size );
-}
-
+inline void *TryTakeBlock( size_t ) { return nullptr; }
 inline void FreeBlock( void *block, uint32_t ) { pbMemFree( block ); }
 
 #endif
+
+inline PbObj *InitObject( void *block, PbSort *sort, uint32_t blockClass )
+{
+    auto obj        = static_cast< PbObj        *>( block );
+    obj->sort       = sort;
+    obj->count      = 1;
+    obj->blockClass = blockClass;
+    return obj;
+}
+
+PbObj *CreateInNewBlock( int64_t size, PbSort *sort );
+
+// An object of one reference whose members are not set. The rare way is a call of its own at the end, so that the usual
+// one saves no registers for it.
+inline PbObj *CreateObject( int64_t size, PbSort *sort )
+{
+    const size_t blockClass = BlockClass( size );
+    void        *block      = TryTakeBlock( blockClass );
+    return block ? InitObject( block, sort, uint32_t( blockClass ) ) : CreateInNewBlock( size, sort );
+}
 
 } // namespace pb

@@ -103,12 +103,19 @@ void MoveToArray( PbDict **slot )
     pb::FreeNodes( std::exchange( dict->tree, nullptr ) );
 }
 
-// Entries often come in the order of their keys.
+// Entries often come in the order of their keys, or are few.
 Place FindForSet( PbDict *dict, const PbString *key )
 {
-    const int64_t length = dict->length;
-    if( length == 0 || pb::CompareKeys( key, dict->Array()[ length - 1 ].key ) > 0 ) return { length, false };
-    return FindInArray( dict, key );
+    constexpr int64_t maxTries = 4;
+
+    const pb::DictEntry *entries = dict->Array();
+    const int64_t        length  = dict->length;
+    for( int64_t index = length; index > std::max( length - maxTries, int64_t{ 0 } ); --index ) {
+        const int order = pb::CompareKeys( key, entries[ index - 1 ].key );
+        if( order > 0 ) return { index, false };
+        if( order == 0 ) return { index - 1, true };
+    }
+    return length > maxTries ? FindInArray( dict, key ) : Place{ 0, false };
 }
 
 void SetInArray( PbDict **slot, pb::DictEntry owned )
@@ -224,6 +231,10 @@ PbObj *pb___DictPeek( PbDict *dict, PbString *key )
 {
     PB_ASSERT( dict );
     PB_ASSERT( key );
+    // Names are mostly shared strings, and then found without being read.
+    if( !dict->tree )
+        for( pb::DictEntry *entry = dict->Array(), *end = entry + dict->length; entry != end; ++entry )
+            if( entry->key == key ) return entry->value;
     const pb::DictEntry *entry = Find( dict, key );
     return entry ? entry->value : nullptr;
 }

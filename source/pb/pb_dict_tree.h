@@ -26,12 +26,13 @@ inline void Replace( DictEntry &entry, DictEntry owned )
     Release( owned.value );
 }
 
-// Negative, 0 or positive, by code point.
+// Negative, 0 or positive, by code point. The first character mostly tells.
 inline int CompareKeys( const PbString *a, const PbString *b )
 {
     if( a == b ) return 0;
+    if( a->length > 0 && b->length > 0 && a->chs[ 0 ] != b->chs[ 0 ] ) return a->chs[ 0 ] < b->chs[ 0 ] ? -1 : 1;
     const int64_t common = a->length < b->length ? a->length : b->length;
-    for( int64_t i = 0; i < common; ++i )
+    for( int64_t i = 1; i < common; ++i )
         if( a->chs[ i ] != b->chs[ i ] ) return a->chs[ i ] < b->chs[ i ] ? -1 : 1;
     return ( a->length > b->length ) - ( a->length < b->length );
 }

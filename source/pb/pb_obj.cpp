@@ -54,12 +54,7 @@ PbObj *pb___ObjCreate( int64_t size, PbSort *sort )
 {
     PB_ASSERT( size >= int64_t( sizeof( PbObj ) ) );
     PB_ASSERT( sort );
-    uint32_t blockClass;
-    auto     obj    = static_cast< PbObj        *>( pb::AllocateBlock( size, &blockClass ) );
-    obj->sort       = sort;
-    obj->count      = 1;
-    obj->blockClass = blockClass;
-    return obj;
+    return pb::CreateObject( size, sort );
 }
 
 void pb___ObjFree( PbObj *obj )
@@ -69,7 +64,7 @@ void pb___ObjFree( PbObj *obj )
     pb::FreeBlock( obj, obj->blockClass );
 }
 
-void pb___Abort( const char *context, const char *file, int line, const char *condition )
+[[gnu::noinline]] void pb___Abort( const char *context, const char *file, int line, const char *condition )
 {
     if( context )
         std::fprintf( stderr, "%s:%d: condition \"%s\" failed (%s)\n", file, line, condition, context );

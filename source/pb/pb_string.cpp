@@ -1,6 +1,7 @@
 // PbString: one block with the characters behind the header.
 #include "pb_string.h"
 
+#include "pb_block.h"
 #include "pb_internal.h"
 #include "pb_utf8.h"
 
@@ -31,7 +32,9 @@ namespace {
 
 // What a string that is created to be appended to holds without growing: a block of 120 bytes.
 constexpr int64_t initialCapacity = 22;
-constexpr int64_t maxLength       = ( INT64_MAX - int64_t( sizeof( PbString ) ) ) / int64_t( sizeof( PbChar ) );
+constexpr int64_t maxKeptLength =
+    int64_t( ( pb::blockClassCount * pb::blockGranule - sizeof( PbString ) ) / sizeof( PbChar ) );
+constexpr int64_t maxLength = ( INT64_MAX - int64_t( sizeof( PbString ) ) ) / int64_t( sizeof( PbChar ) );
 
 size_t  Bytes( int64_t chars ) { return static_cast< size_t >( chars ) * sizeof( PbChar ); }
 int64_t BlockSize( int64_t capacity ) { return int64_t( sizeof( PbString ) + Bytes( capacity ) ); }
@@ -41,10 +44,44 @@ PbString *AsString( void *block ) { return static_cast< PbString * >( block ); }
 PbString *CreateWithCapacity( int64_t capacity )
 {
     PB_ASSERT( capacity <= maxLength );
-    PbString *string = AsString( pb___ObjCreate( BlockSize( capacity ), &pb___sort_PB_STRING ) );
+    PbString *string = AsString( pb::CreateObject( BlockSize( capacity ), &pb___sort_PB_STRING ) );
     string->length   = 0;
     string->capacity = capacity;
     return string;
+}
+
+// A string of that length whose characters are not set; null when that takes a new block.
+PbString *TryCreateInKeptBlock( int64_t length )
+{
+    if( length > maxKeptLength ) return nullptr;
+    const size_t blockClass = pb::BlockClass( BlockSize( length ) );
+    void        *block      = pb::TryTakeBlock( blockClass );
+    if( !block ) return nullptr;
+    PbString *string = AsString( pb::InitObject( block, &pb___sort_PB_STRING, uint32_t( blockClass ) ) );
+    string->length   = length;
+    string->capacity = length;
+    return string;
+}
+
+[[gnu::noinline]] PbString *CopyInNewBlock( const PbChar *chs, int64_t length )
+{
+    PbString *string = CreateWithCapacity( length );
+    string->length   = length;
+    if( length ) std::memcpy( string->chs, chs, Bytes( length ) );
+    return string;
+}
+
+// For texts of some ten characters, where a call costs more than the copying.
+void CopyFew( PbChar *to, const PbChar *from, int64_t length )
+{
+    constexpr int64_t step     = 4;
+    const auto        copyStep = [ = ]( int64_t at ) { std::memcpy( to + at, from + at, step * sizeof( PbChar ) ); };
+    if( length < step ) {
+        for( int64_t at = 0; at < length; ++at ) to[ at ] = from[ at ];
+        return;
+    }
+    for( int64_t at = 0; at < length - step; at += step ) copyStep( at );
+    copyStep( length - step );
 }
 
 void Resize( PbString *&string, int64_t capacity )
@@ -105,8 +142,13 @@ void Trim( PbString *&string )
 // Null when strict decoding fails.
 PbString *CreateFromUtf8( const PbByte *bytes, int64_t length, bool strict )
 {
-    PbString     *string  = CreateWithCapacity( length );
+    PbString *string = TryCreateInKeptBlock( length );
+    if( !string ) string = CreateWithCapacity( length );
     const int64_t decoded = pb::DecodeUtf8( string->chs, bytes, length, strict );
+    if( decoded == length ) [[likely]] {
+        string->length = length;
+        return string;
+    }
     if( decoded < 0 ) {
         pb::Release( string );
         return nullptr;
@@ -154,8 +196,9 @@ PbString *pbStringCreateFromCharsCopy( const PbChar *chs, int64_t length )
 {
     PB_ASSERT( length >= 0 );
     PB_ASSERT( chs || length == 0 );
-    PbString *string = pb___StringCreateUninitialized( length );
-    if( length ) std::memcpy( string->chs, chs, Bytes( length ) );
+    PbString *string = TryCreateInKeptBlock( length );
+    if( !string ) return CopyInNewBlock( chs, length );
+    CopyFew( string->chs, chs, length );
     return string;
 }
 

@@ -4,9 +4,8 @@
 //     while( n < length && sipsn::Is( chs[ n ], sipsn::Token ) ) ++n;
 #pragma once
 
-#include "pb/pb_types.h"
+#include "pb/pb_scan.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -48,9 +47,9 @@ inline constexpr CharClass Unreserved = Alphanum | Mark;
 inline constexpr CharClass ParamChar  = Unreserved | ParamUnreserved | Percent;
 inline constexpr CharClass Atom       = TokenNodot;
 
-inline constexpr std::array< CharClass, 128 > charClasses = [] {
-    std::array< CharClass, 128 > classes{};
-    const auto                   add = [ &classes ]( std::string_view characters, CharClass mask ) {
+inline constexpr pb::ClassTable< CharClass > charClasses = [] {
+    pb::ClassTable< CharClass > classes{};
+    const auto                  add = [ &classes ]( std::string_view characters, CharClass mask ) {
         for( char ch : characters ) classes[ size_t( ch ) ] |= mask;
     };
 
@@ -79,10 +78,7 @@ inline constexpr std::array< CharClass, 128 > charClasses = [] {
     return classes;
 }();
 
-constexpr bool Is( PbChar ch, CharClass mask )
-{
-    return uint32_t( ch ) < charClasses.size() && ( charClasses[ uint32_t( ch ) ] & mask ) != 0;
-}
+constexpr bool Is( PbChar ch, CharClass mask ) { return pb::IsIn( charClasses, mask, ch ); }
 
 // The value of a hexadecimal digit in either case; -1 for what is none.
 inline int HexValue( PbChar ch )

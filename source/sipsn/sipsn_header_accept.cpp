@@ -13,7 +13,7 @@ struct SipsnHeaderAccept
     using Members = pb::Members< &SipsnHeaderAccept::items >;
 };
 
-PbString *sipsn___PbsAccept;
+SIPSN_DEFINE_NAME( sipsn___HeaderAccept, sipsn___PbsAccept, "Accept" )
 
 static constexpr sipsn::List< SipsnHeaderAccept > shape{
     .items   = &SipsnHeaderAccept::items,
@@ -31,6 +31,3 @@ SipsnAccept *sipsnHeaderAcceptTryDecodeAcceptAt( SipsnHeaderAccept *hdr, int64_t
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___AcceptTryDecode );
 }
-
-void sipsn___HeaderAcceptStartup( void ) { sipsn::CreateName( sipsn___PbsAccept, "Accept" ); }
-void sipsn___HeaderAcceptShutdown( void ) { sipsn::DropName( sipsn___PbsAccept ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderAcceptEncoding
     using Members = pb::Members< &SipsnHeaderAcceptEncoding::items >;
 };
 
-PbString *sipsn___PbsAcceptEncoding;
+SIPSN_DEFINE_NAME( sipsn___HeaderAcceptEncoding, sipsn___PbsAcceptEncoding, "Accept-Encoding" )
 
 static constexpr sipsn::List< SipsnHeaderAcceptEncoding > shape{
     .items   = &SipsnHeaderAcceptEncoding::items,
@@ -33,6 +33,3 @@ SipsnAcceptEncoding *sipsnHeaderAcceptEncodingTryDecodeAcceptEncodingAt( SipsnHe
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___AcceptEncodingTryDecode );
 }
-
-void sipsn___HeaderAcceptEncodingStartup( void ) { sipsn::CreateName( sipsn___PbsAcceptEncoding, "Accept-Encoding" ); }
-void sipsn___HeaderAcceptEncodingShutdown( void ) { sipsn::DropName( sipsn___PbsAcceptEncoding ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderAcceptResourcePriority
     using Members = pb::Members< &SipsnHeaderAcceptResourcePriority::items >;
 };
 
-PbString *sipsn___PbsAcceptResourcePriority;
+SIPSN_DEFINE_NAME( sipsn___HeaderAcceptResourcePriority, sipsn___PbsAcceptResourcePriority, "Accept-Resource-Priority" )
 
 static constexpr sipsn::List< SipsnHeaderAcceptResourcePriority > shape{
     .items   = &SipsnHeaderAcceptResourcePriority::items,
@@ -43,9 +43,3 @@ PbString *sipsnHeaderAcceptResourcePriorityRvalueAt( SipsnHeaderAcceptResourcePr
 {
     return SIPSN_LIST_AT( hdr, index );
 }
-
-void sipsn___HeaderAcceptResourcePriorityStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsAcceptResourcePriority, "Accept-Resource-Priority" );
-}
-void sipsn___HeaderAcceptResourcePriorityShutdown( void ) { sipsn::DropName( sipsn___PbsAcceptResourcePriority ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderAlertInfo
     using Members = pb::Members< &SipsnHeaderAlertInfo::items >;
 };
 
-PbString *sipsn___PbsAlertInfo;
+SIPSN_DEFINE_NAME( sipsn___HeaderAlertInfo, sipsn___PbsAlertInfo, "Alert-Info" )
 
 static constexpr sipsn::List< SipsnHeaderAlertInfo > shape{
     .items   = &SipsnHeaderAlertInfo::items,
@@ -32,6 +32,3 @@ SipsnAlertInfo *sipsnHeaderAlertInfoTryDecodeAlertInfoAt( SipsnHeaderAlertInfo *
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___AlertInfoTryDecode );
 }
-
-void sipsn___HeaderAlertInfoStartup( void ) { sipsn::CreateName( sipsn___PbsAlertInfo, "Alert-Info" ); }
-void sipsn___HeaderAlertInfoShutdown( void ) { sipsn::DropName( sipsn___PbsAlertInfo ); }

@@ -15,7 +15,7 @@ struct SipsnHeaderAllow
     using Members = pb::Members< &SipsnHeaderAllow::items >;
 };
 
-PbString *sipsn___PbsAllow;
+SIPSN_DEFINE_NAME( sipsn___HeaderAllow, sipsn___PbsAllow, "Allow" )
 
 static constexpr sipsn::Set< SipsnHeaderAllow > shape{ .items = &SipsnHeaderAllow::items, .item = sipsn___SkipMethod };
 
@@ -59,6 +59,3 @@ void sipsnHeaderAllowDelMethodWcstr( SipsnHeaderAllow **hdr, const wchar_t *meth
 {
     sipsnHeaderAllowDelMethod( hdr, StringFrom( method, methodLength ).Get() );
 }
-
-void sipsn___HeaderAllowStartup( void ) { sipsn::CreateName( sipsn___PbsAllow, "Allow" ); }
-void sipsn___HeaderAllowShutdown( void ) { sipsn::DropName( sipsn___PbsAllow ); }

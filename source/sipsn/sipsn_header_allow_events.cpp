@@ -15,7 +15,7 @@ struct SipsnHeaderAllowEvents
     using Members = pb::Members< &SipsnHeaderAllowEvents::items >;
 };
 
-PbString *sipsn___PbsAllowEvents;
+SIPSN_DEFINE_NAME( sipsn___HeaderAllowEvents, sipsn___PbsAllowEvents, "Allow-Events" )
 
 static constexpr sipsn::Set< SipsnHeaderAllowEvents > shape{
     .items = &SipsnHeaderAllowEvents::items,
@@ -69,6 +69,3 @@ void sipsnHeaderAllowEventsDelEventTypeWcstr( SipsnHeaderAllowEvents **hdr, cons
 {
     sipsnHeaderAllowEventsDelEventType( hdr, StringFrom( eventType, eventTypeLength ).Get() );
 }
-
-void sipsn___HeaderAllowEventsStartup( void ) { sipsn::CreateName( sipsn___PbsAllowEvents, "Allow-Events" ); }
-void sipsn___HeaderAllowEventsShutdown( void ) { sipsn::DropName( sipsn___PbsAllowEvents ); }

@@ -12,7 +12,7 @@ struct SipsnHeaderCallId
     using Members = pb::Members< &SipsnHeaderCallId::callId >;
 };
 
-PbString *sipsn___PbsCallId;
+SIPSN_DEFINE_NAME( sipsn___HeaderCallId, sipsn___PbsCallId, "Call-Id" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderCallId > shape{ .text = &SipsnHeaderCallId::callId, .ok = sipsnCallIdOk };
 
@@ -29,6 +29,3 @@ void      sipsnHeaderCallIdSetCallId( SipsnHeaderCallId **hdr, PbString *callId 
 {
     PB_SET( hdr, callId, sipsnCallIdOk( callId ), pb::Retain( callId ) );
 }
-
-void sipsn___HeaderCallIdStartup( void ) { sipsn::CreateName( sipsn___PbsCallId, "Call-Id" ); }
-void sipsn___HeaderCallIdShutdown( void ) { sipsn::DropName( sipsn___PbsCallId ); }

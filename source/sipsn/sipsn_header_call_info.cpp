@@ -13,7 +13,7 @@ struct SipsnHeaderCallInfo
     using Members = pb::Members< &SipsnHeaderCallInfo::items >;
 };
 
-PbString *sipsn___PbsCallInfo;
+SIPSN_DEFINE_NAME( sipsn___HeaderCallInfo, sipsn___PbsCallInfo, "Call-Info" )
 
 static constexpr sipsn::List< SipsnHeaderCallInfo > shape{
     .items   = &SipsnHeaderCallInfo::items,
@@ -32,6 +32,3 @@ SipsnCallInfo *sipsnHeaderCallInfoTryDecodeCallInfoAt( SipsnHeaderCallInfo *hdr,
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___CallInfoTryDecode );
 }
-
-void sipsn___HeaderCallInfoStartup( void ) { sipsn::CreateName( sipsn___PbsCallInfo, "Call-Info" ); }
-void sipsn___HeaderCallInfoShutdown( void ) { sipsn::DropName( sipsn___PbsCallInfo ); }

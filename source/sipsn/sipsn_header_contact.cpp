@@ -14,7 +14,7 @@ struct SipsnHeaderContact
     using Members = pb::Members< &SipsnHeaderContact::starForm, &SipsnHeaderContact::items >;
 };
 
-PbString *sipsn___PbsContact;
+SIPSN_DEFINE_NAME( sipsn___HeaderContact, sipsn___PbsContact, "Contact" )
 
 static constexpr sipsn::List< SipsnHeaderContact > contacts{
     .items   = &SipsnHeaderContact::items,
@@ -79,6 +79,3 @@ void sipsnHeaderContactClear( SipsnHeaderContact **hdr )
     SIPSN_LIST_CLEAR( hdr );
     ( *hdr )->starForm = false;
 }
-
-void sipsn___HeaderContactStartup( void ) { sipsn::CreateName( sipsn___PbsContact, "Contact" ); }
-void sipsn___HeaderContactShutdown( void ) { sipsn::DropName( sipsn___PbsContact ); }

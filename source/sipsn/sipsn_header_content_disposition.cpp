@@ -20,7 +20,7 @@ struct SipsnHeaderContentDisposition
                      &SipsnHeaderContentDisposition::genericParams >;
 };
 
-PbString *sipsn___PbsContentDisposition;
+SIPSN_DEFINE_NAME( sipsn___HeaderContentDisposition, sipsn___PbsContentDisposition, "Content-Disposition" )
 
 static SipsnHeaderContentDisposition *TryDecode( PbString *line );
 static PbString                      *EncodeLine( SipsnHeaderContentDisposition *hdr );
@@ -107,10 +107,3 @@ static PbString *EncodeLine( SipsnHeaderContentDisposition *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderContentDispositionStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsContentDisposition, "Content-Disposition" );
-}
-
-void sipsn___HeaderContentDispositionShutdown( void ) { sipsn::DropName( sipsn___PbsContentDisposition ); }

@@ -14,7 +14,7 @@ struct SipsnHeaderContentEncoding
     using Members = pb::Members< &SipsnHeaderContentEncoding::items >;
 };
 
-PbString *sipsn___PbsContentEncoding;
+SIPSN_DEFINE_NAME( sipsn___HeaderContentEncoding, sipsn___PbsContentEncoding, "Content-Encoding" )
 
 static constexpr sipsn::List< SipsnHeaderContentEncoding > shape{
     .items   = &SipsnHeaderContentEncoding::items,
@@ -59,9 +59,3 @@ void sipsnHeaderContentEncodingSetContentCodingsVector( SipsnHeaderContentEncodi
         sipsnHeaderContentEncodingAppendContentCoding( hdr,
                                                        pb::Ref{ pbObjToString( pb___VectorPeek( vec, at ) ) }.Get() );
 }
-
-void sipsn___HeaderContentEncodingStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsContentEncoding, "Content-Encoding" );
-}
-void sipsn___HeaderContentEncodingShutdown( void ) { sipsn::DropName( sipsn___PbsContentEncoding ); }

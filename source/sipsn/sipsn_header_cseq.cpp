@@ -17,7 +17,7 @@ struct SipsnHeaderCseq
     using Members = pb::Members< &SipsnHeaderCseq::cseq, &SipsnHeaderCseq::method >;
 };
 
-PbString *sipsn___PbsCseq;
+SIPSN_DEFINE_NAME( sipsn___HeaderCseq, sipsn___PbsCseq, "Cseq" )
 
 static SipsnHeaderCseq *TryDecode( PbString *line );
 static PbString        *EncodeLine( SipsnHeaderCseq *hdr );
@@ -82,6 +82,3 @@ static PbString *EncodeLine( SipsnHeaderCseq *hdr )
         out.Text( hdr->method );
     } );
 }
-
-void sipsn___HeaderCseqStartup( void ) { sipsn::CreateName( sipsn___PbsCseq, "Cseq" ); }
-void sipsn___HeaderCseqShutdown( void ) { sipsn::DropName( sipsn___PbsCseq ); }

@@ -16,7 +16,7 @@ struct SipsnHeaderDate
     using Members = pb::Members< &SipsnHeaderDate::time >;
 };
 
-PbString *sipsn___PbsDate;
+SIPSN_DEFINE_NAME( sipsn___HeaderDate, sipsn___PbsDate, "Date" )
 
 static SipsnHeaderDate *TryDecode( PbString *line );
 static PbString        *EncodeLine( SipsnHeaderDate *hdr );
@@ -104,6 +104,3 @@ static PbString *EncodeLine( SipsnHeaderDate *hdr )
                                                 pbTimeMinute( time ), pbTimeSecond( time ) ) );
     } );
 }
-
-void sipsn___HeaderDateStartup( void ) { sipsn::CreateName( sipsn___PbsDate, "Date" ); }
-void sipsn___HeaderDateShutdown( void ) { sipsn::DropName( sipsn___PbsDate ); }

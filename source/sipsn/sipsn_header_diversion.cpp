@@ -13,7 +13,7 @@ struct SipsnHeaderDiversion
     using Members = pb::Members< &SipsnHeaderDiversion::items >;
 };
 
-PbString *sipsn___PbsDiversion;
+SIPSN_DEFINE_NAME( sipsn___HeaderDiversion, sipsn___PbsDiversion, "Diversion" )
 
 static constexpr sipsn::List< SipsnHeaderDiversion > shape{
     .items   = &SipsnHeaderDiversion::items,
@@ -32,6 +32,3 @@ SipsnDiversion *sipsnHeaderDiversionTryDecodeDiversionAt( SipsnHeaderDiversion *
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___DiversionTryDecode );
 }
-
-void sipsn___HeaderDiversionStartup( void ) { sipsn::CreateName( sipsn___PbsDiversion, "Diversion" ); }
-void sipsn___HeaderDiversionShutdown( void ) { sipsn::DropName( sipsn___PbsDiversion ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderErrorInfo
     using Members = pb::Members< &SipsnHeaderErrorInfo::items >;
 };
 
-PbString *sipsn___PbsErrorInfo;
+SIPSN_DEFINE_NAME( sipsn___HeaderErrorInfo, sipsn___PbsErrorInfo, "Error-Info" )
 
 static constexpr sipsn::List< SipsnHeaderErrorInfo > shape{
     .items   = &SipsnHeaderErrorInfo::items,
@@ -32,6 +32,3 @@ SipsnErrorInfo *sipsnHeaderErrorInfoTryDecodeErrorInfoAt( SipsnHeaderErrorInfo *
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___ErrorInfoTryDecode );
 }
-
-void sipsn___HeaderErrorInfoStartup( void ) { sipsn::CreateName( sipsn___PbsErrorInfo, "Error-Info" ); }
-void sipsn___HeaderErrorInfoShutdown( void ) { sipsn::DropName( sipsn___PbsErrorInfo ); }

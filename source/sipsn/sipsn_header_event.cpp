@@ -18,7 +18,7 @@ struct SipsnHeaderEvent
         pb::Members< &SipsnHeaderEvent::eventType, &SipsnHeaderEvent::id, &SipsnHeaderEvent::genericParams >;
 };
 
-PbString *sipsn___PbsEvent;
+SIPSN_DEFINE_NAME( sipsn___HeaderEvent, sipsn___PbsEvent, "Event" )
 
 static SipsnHeaderEvent *TryDecode( PbString *line );
 static PbString         *EncodeLine( SipsnHeaderEvent *hdr );
@@ -111,6 +111,3 @@ static PbString *EncodeLine( SipsnHeaderEvent *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderEventStartup( void ) { sipsn::CreateName( sipsn___PbsEvent, "Event" ); }
-void sipsn___HeaderEventShutdown( void ) { sipsn::DropName( sipsn___PbsEvent ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderExpires
     using Members = pb::Members< &SipsnHeaderExpires::deltaSeconds >;
 };
 
-PbString *sipsn___PbsExpires;
+SIPSN_DEFINE_NAME( sipsn___HeaderExpires, sipsn___PbsExpires, "Expires" )
 
 static SipsnHeaderExpires *TryDecode( PbString *line );
 static PbString           *EncodeLine( SipsnHeaderExpires *hdr );
@@ -43,6 +43,3 @@ static SipsnHeaderExpires *TryDecode( PbString *line )
 }
 
 static PbString *EncodeLine( SipsnHeaderExpires *hdr ) { return sipsn___DeltaSecondsEncode( hdr->deltaSeconds ); }
-
-void sipsn___HeaderExpiresStartup( void ) { sipsn::CreateName( sipsn___PbsExpires, "Expires" ); }
-void sipsn___HeaderExpiresShutdown( void ) { sipsn::DropName( sipsn___PbsExpires ); }

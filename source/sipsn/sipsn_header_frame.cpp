@@ -21,8 +21,9 @@ PbString *FieldName( PbString *name )
     return name == sipsn___PbsUserToUser ? sipsnMessageHeaderNameNormalize( name ) : pb::Retain( name );
 }
 
-SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name )
+SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name, int64_t number )
 {
+    if( !MayHold( msg->fragment, number ) ) return nullptr;
     if( name != sipsn___PbsUserToUser ) return PeekHeader( msg->fragment, name );
     return PeekHeader( msg->fragment, pb::Ref{ FieldName( name ) }.Get() );
 }

@@ -2,7 +2,7 @@
 //
 //     struct SipsnHeaderVia { ... };                         // 1. members and table, as for every type
 //
-//     PbString *sipsn___PbsVia;                              // 2. the name constant
+//     SIPSN_DEFINE_NAME( ... )                               // 2. the name constant
 //
 //     static constexpr sipsn::List< ... > shape{ ... };      // 3. one of the shapes: what sets the family apart
 //
@@ -30,8 +30,8 @@ inline PbString *PeekString( PbVector *vector, int64_t index )
 // The lines of a header field as one text: none, the line itself, or the vector's own text. Takes over the reference.
 PbString *LinesToString( SipsnMessageHeader *owned );
 
-// The field of a family in a message, without a reference of its own, or null. The name is a family's constant.
-SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name );
+// The field of a family in a message, without a reference of its own, or null: the family's constant and its number.
+SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name, int64_t number );
 
 // The canonical form of a family's constant, a new reference.
 PbString *FieldName( PbString *name );
@@ -244,8 +244,23 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 
 // ---- The functions of a header type ----------------------------------------------------------------
 
-// Defines what SIPSN_DECLARE_HEADER declares. SIPSN_DEFINE_HEADER( SipsnHeaderVia, sipsnHeaderVia, SIPSN_HEADER_VIA,
-// sipsn___PbsVia, shape ) defines, beyond SIPSN_DEFINE_TYPE,
+// Defines a family's name constant and the functions that keep it. SIPSN_DEFINE_NAME( sipsn___HeaderVia,
+// sipsn___PbsVia, "Via" ) defines
+//
+//     sipsn___PbsVia, sipsn___HeaderViaStartup, sipsn___HeaderViaShutdown
+#define SIPSN_DEFINE_NAME( prefix, constant, text )                                                                    \
+    SIPSN_DEFINE_NAME_CONSTANT( constant, text )                                                                       \
+    void prefix##Startup( void ) { sipsn::CreateName( constant, text ); }                                              \
+    void prefix##Shutdown( void ) { sipsn::DropName( constant ); }
+
+// The constant alone, for a family that keeps more.
+#define SIPSN_DEFINE_NAME_CONSTANT( constant, text )                                                                   \
+    PbString                *constant;                                                                                 \
+    static constexpr int64_t nameNumber = sipsn::HeaderNumber( text );                                                 \
+    static_assert( nameNumber >= 0, "not a known name" );
+
+// Defines what SIPSN_DECLARE_HEADER declares, behind SIPSN_DEFINE_NAME. SIPSN_DEFINE_HEADER( SipsnHeaderVia,
+// sipsnHeaderVia, SIPSN_HEADER_VIA, sipsn___PbsVia, shape ) defines, beyond SIPSN_DEFINE_TYPE,
 //
 //     sipsnHeaderViaTryDecode, ...Encode, ...TryDecodeFromMessage, ...EncodeToMessage, ...PresentInMessage,
 //     ...RemoveFromMessage, ...Store, ...TryRestore
@@ -269,7 +284,7 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     Type *prefix##TryDecodeFromMessage( SipsnMessage *msg )                                                            \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        SipsnMessageHeader *header = sipsn::PeekField( msg, name );                                                    \
+        SipsnMessageHeader *header = sipsn::PeekField( msg, name, nameNumber );                                        \
         return header && sipsn::LineCount( header ) > 0 ? shape.TryDecode( header ) : nullptr;                         \
     }                                                                                                                  \
     void prefix##EncodeToMessage( Type *hdr, SipsnMessage **msg )                                                      \
@@ -281,7 +296,7 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     bool prefix##PresentInMessage( SipsnMessage *msg )                                                                 \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        return sipsn::PeekField( msg, name ) != nullptr;                                                               \
+        return sipsn::PeekField( msg, name, nameNumber ) != nullptr;                                                   \
     }                                                                                                                  \
     void prefix##RemoveFromMessage( SipsnMessage **msg )                                                               \
     {                                                                                                                  \

@@ -18,7 +18,7 @@ struct SipsnHeaderFrom
                                  &SipsnHeaderFrom::epid, &SipsnHeaderFrom::genericParams >;
 };
 
-PbString *sipsn___PbsFrom;
+SIPSN_DEFINE_NAME( sipsn___HeaderFrom, sipsn___PbsFrom, "From" )
 
 static constexpr auto shape = sipsn::dialogParty< SipsnHeaderFrom >;
 
@@ -81,6 +81,3 @@ void                sipsnHeaderFromSetGenericParams( SipsnHeaderFrom **hdr, Sips
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderFromStartup( void ) { sipsn::CreateName( sipsn___PbsFrom, "From" ); }
-void sipsn___HeaderFromShutdown( void ) { sipsn::DropName( sipsn___PbsFrom ); }

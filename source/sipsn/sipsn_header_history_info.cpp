@@ -13,7 +13,7 @@ struct SipsnHeaderHistoryInfo
     using Members = pb::Members< &SipsnHeaderHistoryInfo::items >;
 };
 
-PbString *sipsn___PbsHistoryInfo;
+SIPSN_DEFINE_NAME( sipsn___HeaderHistoryInfo, sipsn___PbsHistoryInfo, "History-Info" )
 
 static constexpr sipsn::List< SipsnHeaderHistoryInfo > shape{
     .items   = &SipsnHeaderHistoryInfo::items,
@@ -33,6 +33,3 @@ SipsnHistoryInfo *sipsnHeaderHistoryInfoTryDecodeHistoryInfoAt( SipsnHeaderHisto
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___HistoryInfoTryDecode );
 }
-
-void sipsn___HeaderHistoryInfoStartup( void ) { sipsn::CreateName( sipsn___PbsHistoryInfo, "History-Info" ); }
-void sipsn___HeaderHistoryInfoShutdown( void ) { sipsn::DropName( sipsn___PbsHistoryInfo ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderInReplyTo
     using Members = pb::Members< &SipsnHeaderInReplyTo::items >;
 };
 
-PbString *sipsn___PbsInReplyTo;
+SIPSN_DEFINE_NAME( sipsn___HeaderInReplyTo, sipsn___PbsInReplyTo, "In-Reply-To" )
 
 static constexpr sipsn::Set< SipsnHeaderInReplyTo > shape{
     .items = &SipsnHeaderInReplyTo::items,
@@ -30,6 +30,3 @@ static PbString *Key( PbString *callId )
 SIPSN_DEFINE_SET( SipsnHeaderInReplyTo, sipsnHeaderInReplyTo, CallIds, CallId, callId, Key )
 
 SipsnHeaderInReplyTo *sipsnHeaderInReplyToCreate( void ) { return shape.Create(); }
-
-void sipsn___HeaderInReplyToStartup( void ) { sipsn::CreateName( sipsn___PbsInReplyTo, "In-Reply-To" ); }
-void sipsn___HeaderInReplyToShutdown( void ) { sipsn::DropName( sipsn___PbsInReplyTo ); }

@@ -12,7 +12,7 @@ struct SipsnHeaderMaxForwards
     using Members = pb::Members< &SipsnHeaderMaxForwards::maxForwards >;
 };
 
-PbString *sipsn___PbsMaxForwards;
+SIPSN_DEFINE_NAME( sipsn___HeaderMaxForwards, sipsn___PbsMaxForwards, "Max-Forwards" )
 
 static SipsnHeaderMaxForwards *TryDecode( PbString *line );
 static PbString               *EncodeLine( SipsnHeaderMaxForwards *hdr );
@@ -45,6 +45,3 @@ static SipsnHeaderMaxForwards *TryDecode( PbString *line )
 }
 
 static PbString *EncodeLine( SipsnHeaderMaxForwards *hdr ) { return pbFormatEncodeInt( hdr->maxForwards, 10, 0, 0 ); }
-
-void sipsn___HeaderMaxForwardsStartup( void ) { sipsn::CreateName( sipsn___PbsMaxForwards, "Max-Forwards" ); }
-void sipsn___HeaderMaxForwardsShutdown( void ) { sipsn::DropName( sipsn___PbsMaxForwards ); }

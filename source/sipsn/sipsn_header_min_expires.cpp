@@ -13,7 +13,7 @@ struct SipsnHeaderMinExpires
     using Members = pb::Members< &SipsnHeaderMinExpires::deltaSeconds >;
 };
 
-PbString *sipsn___PbsMinExpires;
+SIPSN_DEFINE_NAME( sipsn___HeaderMinExpires, sipsn___PbsMinExpires, "Min-Expires" )
 
 static SipsnHeaderMinExpires *TryDecode( PbString *line );
 static PbString              *EncodeLine( SipsnHeaderMinExpires *hdr );
@@ -44,6 +44,3 @@ static SipsnHeaderMinExpires *TryDecode( PbString *line )
 }
 
 static PbString *EncodeLine( SipsnHeaderMinExpires *hdr ) { return sipsn___DeltaSecondsEncode( hdr->deltaSeconds ); }
-
-void sipsn___HeaderMinExpiresStartup( void ) { sipsn::CreateName( sipsn___PbsMinExpires, "Min-Expires" ); }
-void sipsn___HeaderMinExpiresShutdown( void ) { sipsn::DropName( sipsn___PbsMinExpires ); }

@@ -16,7 +16,7 @@ struct SipsnHeaderMinSe
     using Members = pb::Members< &SipsnHeaderMinSe::deltaSeconds, &SipsnHeaderMinSe::genericParams >;
 };
 
-PbString *sipsn___PbsMinSe;
+SIPSN_DEFINE_NAME( sipsn___HeaderMinSe, sipsn___PbsMinSe, "Min-Se" )
 
 static SipsnHeaderMinSe *TryDecode( PbString *line );
 static PbString         *EncodeLine( SipsnHeaderMinSe *hdr );
@@ -69,6 +69,3 @@ static PbString *EncodeLine( SipsnHeaderMinSe *hdr )
         sipsn::ParamWriter{ out, hdr->genericParams }.Generic();
     } );
 }
-
-void sipsn___HeaderMinSeStartup( void ) { sipsn::CreateName( sipsn___PbsMinSe, "Min-Se" ); }
-void sipsn___HeaderMinSeShutdown( void ) { sipsn::DropName( sipsn___PbsMinSe ); }

@@ -1,7 +1,12 @@
 // The header names that are recognised without allocating, and the canonical form of those that are not.
 #pragma once
 
+#include "sipsn_char_class.h"
 #include "sipsn_internal.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 namespace sipsn {
 
@@ -11,8 +16,124 @@ void ShareHeaderName( PbString *name );
 void StartHeaderNames();
 void StopHeaderNames();
 
-// How many names are known. Each has a number, and a name with a higher number comes later by code point.
-inline constexpr int64_t headerNameCount = 104;
+// The known names. Each has a number, its place here; they are in the order of code points.
+inline constexpr std::string_view headerNames[] = {
+    "Accept",
+    "Accept-Contact",
+    "Accept-Encoding",
+    "Accept-Language",
+    "Accept-Resource-Priority",
+    "Alert-Info",
+    "Allow",
+    "Allow-Events",
+    "Authentication-Info",
+    "Authorization",
+    "Call-Id",
+    "Call-Info",
+    "Contact",
+    "Content-Disposition",
+    "Content-Encoding",
+    "Content-Language",
+    "Content-Length",
+    "Content-Type",
+    "Cseq",
+    "Date",
+    "Diversion",
+    "Error-Info",
+    "Event",
+    "Expires",
+    "Feature-Caps",
+    "Flow-Timer",
+    "From",
+    "Geolocation",
+    "Geolocation-Error",
+    "Geolocation-Routing",
+    "History-Info",
+    "Identity",
+    "Identity-Info",
+    "In-Reply-To",
+    "Info-Package",
+    "Join",
+    "Max-Breadth",
+    "Max-Forwards",
+    "Mime-Version",
+    "Min-Expires",
+    "Min-Se",
+    "Organization",
+    "P-Access-Network-Info",
+    "P-Asserted-Identity",
+    "P-Asserted-Service",
+    "P-Associated-Uri",
+    "P-Called-Party-Id",
+    "P-Charging-Function-Addresses",
+    "P-Charging-Vector",
+    "P-Early-Media",
+    "P-Preferred-Identity",
+    "P-Preferred-Service",
+    "P-Profile-Key",
+    "P-Served-User",
+    "P-Visited-Network-Id",
+    "Path",
+    "Permission-Missing",
+    "Policy-Contact",
+    "Policy-Id",
+    "Priority",
+    "Privacy",
+    "Proxy-Authenticate",
+    "Proxy-Authentication-Info",
+    "Proxy-Authorization",
+    "Proxy-Require",
+    "Rack",
+    "Reason",
+    "Record-Route",
+    "Recv-Info",
+    "Refer-Sub",
+    "Refer-To",
+    "Referred-By",
+    "Reject-Contact",
+    "Remote-Party-Id",
+    "Replaces",
+    "Reply-To",
+    "Request-Disposition",
+    "Require",
+    "Resource-Priority",
+    "Retry-After",
+    "Route",
+    "Rseq",
+    "Security-Client",
+    "Security-Server",
+    "Security-Verify",
+    "Server",
+    "Service-Route",
+    "Session-Expires",
+    "Session-Id",
+    "Sip-Etag",
+    "Sip-If-Match",
+    "Subject",
+    "Subscription-State",
+    "Supported",
+    "Suppress-If-Match",
+    "Target-Dialog",
+    "Timestamp",
+    "To",
+    "Unsupported",
+    "User-Agent",
+    "User-To-User",
+    "Via",
+    "Warning",
+    "Www-Authenticate",
+};
+
+inline constexpr int64_t headerNameCount = int64_t( std::size( headerNames ) );
+
+// The number of a known name in any letter case; -1 when it is none.
+consteval int64_t HeaderNumber( std::string_view name )
+{
+    const auto sameLetter = []( char a, char b ) { return AsciiLower( a ) == AsciiLower( b ); };
+    for( int64_t number = 0; number < headerNameCount; ++number )
+        if( std::ranges::equal( headerNames[ number ], name, sameLetter ) ) return number;
+    return -1;
+}
 
 // The canonical name of that number, without a reference of its own.
 PbString *HeaderNameAt( int64_t number );

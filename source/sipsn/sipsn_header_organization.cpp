@@ -13,7 +13,7 @@ struct SipsnHeaderOrganization
     using Members = pb::Members< &SipsnHeaderOrganization::organization >;
 };
 
-PbString *sipsn___PbsOrganization;
+SIPSN_DEFINE_NAME( sipsn___HeaderOrganization, sipsn___PbsOrganization, "Organization" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderOrganization > shape{
     .text = &SipsnHeaderOrganization::organization, .ok = sipsnOrganizationOk, .normalized = sipsn::CollapseBlanks };
@@ -32,6 +32,3 @@ void      sipsnHeaderOrganizationSetOrganization( SipsnHeaderOrganization **hdr,
 {
     PB_PUT( hdr, organization, sipsnOrganizationNormalize( organization ) );
 }
-
-void sipsn___HeaderOrganizationStartup( void ) { sipsn::CreateName( sipsn___PbsOrganization, "Organization" ); }
-void sipsn___HeaderOrganizationShutdown( void ) { sipsn::DropName( sipsn___PbsOrganization ); }

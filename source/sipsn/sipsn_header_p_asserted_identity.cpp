@@ -13,7 +13,7 @@ struct SipsnHeaderPAssertedIdentity
     using Members = pb::Members< &SipsnHeaderPAssertedIdentity::items >;
 };
 
-PbString *sipsn___PbsPAssertedIdentity;
+SIPSN_DEFINE_NAME( sipsn___HeaderPAssertedIdentity, sipsn___PbsPAssertedIdentity, "P-Asserted-Identity" )
 
 static constexpr sipsn::List< SipsnHeaderPAssertedIdentity > shape{
     .items   = &SipsnHeaderPAssertedIdentity::items,
@@ -34,9 +34,3 @@ SipsnIdentityValue *sipsnHeaderPAssertedIdentityTryDecodeIdentityValueAt( SipsnH
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___IdentityValueTryDecode );
 }
-
-void sipsn___HeaderPAssertedIdentityStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsPAssertedIdentity, "P-Asserted-Identity" );
-}
-void sipsn___HeaderPAssertedIdentityShutdown( void ) { sipsn::DropName( sipsn___PbsPAssertedIdentity ); }

@@ -15,7 +15,7 @@ struct SipsnHeaderPCalledPartyId
                                  &SipsnHeaderPCalledPartyId::genericParams >;
 };
 
-PbString *sipsn___PbsPCalledPartyId;
+SIPSN_DEFINE_NAME( sipsn___HeaderPCalledPartyId, sipsn___PbsPCalledPartyId, "P-Called-Party-Id" )
 
 static constexpr sipsn::Address< SipsnHeaderPCalledPartyId > shape{};
 
@@ -54,9 +54,3 @@ void sipsnHeaderPCalledPartyIdSetGenericParams( SipsnHeaderPCalledPartyId **hdr,
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderPCalledPartyIdStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsPCalledPartyId, "P-Called-Party-Id" );
-}
-void sipsn___HeaderPCalledPartyIdShutdown( void ) { sipsn::DropName( sipsn___PbsPCalledPartyId ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderPEarlyMedia
     using Members = pb::Members< &SipsnHeaderPEarlyMedia::items >;
 };
 
-PbString *sipsn___PbsPEarlyMedia;
+SIPSN_DEFINE_NAME( sipsn___HeaderPEarlyMedia, sipsn___PbsPEarlyMedia, "P-Early-Media" )
 
 static constexpr sipsn::List< SipsnHeaderPEarlyMedia > shape{
     .items   = &SipsnHeaderPEarlyMedia::items,
@@ -39,6 +39,3 @@ PbString *sipsnHeaderPEarlyMediaEmParamAt( SipsnHeaderPEarlyMedia *hdr, int64_t 
 {
     return SIPSN_LIST_AT( hdr, index );
 }
-
-void sipsn___HeaderPEarlyMediaStartup( void ) { sipsn::CreateName( sipsn___PbsPEarlyMedia, "P-Early-Media" ); }
-void sipsn___HeaderPEarlyMediaShutdown( void ) { sipsn::DropName( sipsn___PbsPEarlyMedia ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderPPreferredIdentity
     using Members = pb::Members< &SipsnHeaderPPreferredIdentity::items >;
 };
 
-PbString *sipsn___PbsPPreferredIdentity;
+SIPSN_DEFINE_NAME( sipsn___HeaderPPreferredIdentity, sipsn___PbsPPreferredIdentity, "P-Preferred-Identity" )
 
 static constexpr sipsn::List< SipsnHeaderPPreferredIdentity > shape{
     .items   = &SipsnHeaderPPreferredIdentity::items,
@@ -37,9 +37,3 @@ SipsnIdentityValue *sipsnHeaderPPreferredIdentityTryDecodeIdentityValueAt( Sipsn
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___IdentityValueTryDecode );
 }
-
-void sipsn___HeaderPPreferredIdentityStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsPPreferredIdentity, "P-Preferred-Identity" );
-}
-void sipsn___HeaderPPreferredIdentityShutdown( void ) { sipsn::DropName( sipsn___PbsPPreferredIdentity ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderPriority
     using Members = pb::Members< &SipsnHeaderPriority::priorityValue >;
 };
 
-PbString *sipsn___PbsPriority;
+SIPSN_DEFINE_NAME_CONSTANT( sipsn___PbsPriority, "Priority" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderPriority > shape{
     .text = &SipsnHeaderPriority::priorityValue, .ok = sipsnPriorityValueOk, .normalized = sipsn::ToLower };

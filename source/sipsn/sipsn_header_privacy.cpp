@@ -16,7 +16,7 @@ struct SipsnHeaderPrivacy
     using Members = pb::Members< &SipsnHeaderPrivacy::items >;
 };
 
-PbString *sipsn___PbsPrivacy;
+SIPSN_DEFINE_NAME( sipsn___HeaderPrivacy, sipsn___PbsPrivacy, "Privacy" )
 
 static constexpr sipsn::Set< SipsnHeaderPrivacy > shape{
     .items     = &SipsnHeaderPrivacy::items,
@@ -65,6 +65,3 @@ void sipsnHeaderPrivacyDelPrivValueWcstr( SipsnHeaderPrivacy **hdr, const wchar_
 {
     sipsnHeaderPrivacyDelPrivValue( hdr, StringFrom( privValue, privValueLength ).Get() );
 }
-
-void sipsn___HeaderPrivacyStartup( void ) { sipsn::CreateName( sipsn___PbsPrivacy, "Privacy" ); }
-void sipsn___HeaderPrivacyShutdown( void ) { sipsn::DropName( sipsn___PbsPrivacy ); }

@@ -16,7 +16,7 @@ struct SipsnHeaderProxyRequire
     using Members = pb::Members< &SipsnHeaderProxyRequire::items >;
 };
 
-PbString *sipsn___PbsProxyRequire;
+SIPSN_DEFINE_NAME( sipsn___HeaderProxyRequire, sipsn___PbsProxyRequire, "Proxy-Require" )
 
 static constexpr sipsn::Set< SipsnHeaderProxyRequire > shape{
     .items  = &SipsnHeaderProxyRequire::items,
@@ -71,6 +71,3 @@ void sipsnHeaderProxyRequireDelOptionTagWcstr( SipsnHeaderProxyRequire **hdr, co
 {
     sipsnHeaderProxyRequireDelOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
 }
-
-void sipsn___HeaderProxyRequireStartup( void ) { sipsn::CreateName( sipsn___PbsProxyRequire, "Proxy-Require" ); }
-void sipsn___HeaderProxyRequireShutdown( void ) { sipsn::DropName( sipsn___PbsProxyRequire ); }

@@ -18,7 +18,7 @@ struct SipsnHeaderRack
     using Members = pb::Members< &SipsnHeaderRack::responseNum, &SipsnHeaderRack::cseq, &SipsnHeaderRack::method >;
 };
 
-PbString *sipsn___PbsRack;
+SIPSN_DEFINE_NAME( sipsn___HeaderRack, sipsn___PbsRack, "Rack" )
 
 static SipsnHeaderRack *TryDecode( PbString *line );
 static PbString        *EncodeLine( SipsnHeaderRack *hdr );
@@ -85,6 +85,3 @@ static PbString *EncodeLine( SipsnHeaderRack *hdr )
         out.Text( hdr->method );
     } );
 }
-
-void sipsn___HeaderRackStartup( void ) { sipsn::CreateName( sipsn___PbsRack, "Rack" ); }
-void sipsn___HeaderRackShutdown( void ) { sipsn::DropName( sipsn___PbsRack ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderReason
     using Members = pb::Members< &SipsnHeaderReason::items >;
 };
 
-PbString *sipsn___PbsReason;
+SIPSN_DEFINE_NAME( sipsn___HeaderReason, sipsn___PbsReason, "Reason" )
 
 static constexpr sipsn::List< SipsnHeaderReason > shape{
     .items   = &SipsnHeaderReason::items,
@@ -31,6 +31,3 @@ SipsnReason *sipsnHeaderReasonTryDecodeReasonAt( SipsnHeaderReason *hdr, int64_t
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___ReasonTryDecode );
 }
-
-void sipsn___HeaderReasonStartup( void ) { sipsn::CreateName( sipsn___PbsReason, "Reason" ); }
-void sipsn___HeaderReasonShutdown( void ) { sipsn::DropName( sipsn___PbsReason ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderRecordRoute
     using Members = pb::Members< &SipsnHeaderRecordRoute::items >;
 };
 
-PbString *sipsn___PbsRecordRoute;
+SIPSN_DEFINE_NAME( sipsn___HeaderRecordRoute, sipsn___PbsRecordRoute, "Record-Route" )
 
 static constexpr sipsn::List< SipsnHeaderRecordRoute > shape{
     .items   = &SipsnHeaderRecordRoute::items,
@@ -33,6 +33,3 @@ SipsnRoute *sipsnHeaderRecordRouteTryDecodeRouteAt( SipsnHeaderRecordRoute *hdr,
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___RouteTryDecode );
 }
-
-void sipsn___HeaderRecordRouteStartup( void ) { sipsn::CreateName( sipsn___PbsRecordRoute, "Record-Route" ); }
-void sipsn___HeaderRecordRouteShutdown( void ) { sipsn::DropName( sipsn___PbsRecordRoute ); }

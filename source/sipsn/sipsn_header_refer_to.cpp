@@ -16,7 +16,7 @@ struct SipsnHeaderReferTo
         pb::Members< &SipsnHeaderReferTo::iri, &SipsnHeaderReferTo::displayName, &SipsnHeaderReferTo::genericParams >;
 };
 
-PbString *sipsn___PbsReferTo;
+SIPSN_DEFINE_NAME( sipsn___HeaderReferTo, sipsn___PbsReferTo, "Refer-To" )
 
 static constexpr sipsn::Address< SipsnHeaderReferTo > shape{ .bareAgain = sipsn___SkipUri };
 
@@ -51,6 +51,3 @@ void                sipsnHeaderReferToSetGenericParams( SipsnHeaderReferTo **hdr
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderReferToStartup( void ) { sipsn::CreateName( sipsn___PbsReferTo, "Refer-To" ); }
-void sipsn___HeaderReferToShutdown( void ) { sipsn::DropName( sipsn___PbsReferTo ); }

@@ -17,7 +17,7 @@ struct SipsnHeaderReferredBy
                                  &SipsnHeaderReferredBy::cid, &SipsnHeaderReferredBy::genericParams >;
 };
 
-PbString *sipsn___PbsReferredBy;
+SIPSN_DEFINE_NAME( sipsn___HeaderReferredBy, sipsn___PbsReferredBy, "Referred-By" )
 
 static bool TakeTypedParam( sipsn::Cursor &in, SipsnHeaderReferredBy *hdr )
 {
@@ -75,6 +75,3 @@ void sipsnHeaderReferredBySetGenericParams( SipsnHeaderReferredBy **hdr, SipsnGe
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderReferredByStartup( void ) { sipsn::CreateName( sipsn___PbsReferredBy, "Referred-By" ); }
-void sipsn___HeaderReferredByShutdown( void ) { sipsn::DropName( sipsn___PbsReferredBy ); }

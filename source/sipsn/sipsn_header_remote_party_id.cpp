@@ -15,7 +15,7 @@ struct SipsnHeaderRemotePartyId
                                  &SipsnHeaderRemotePartyId::genericParams >;
 };
 
-PbString *sipsn___PbsRemotePartyId;
+SIPSN_DEFINE_NAME( sipsn___HeaderRemotePartyId, sipsn___PbsRemotePartyId, "Remote-Party-Id" )
 
 static constexpr sipsn::Address< SipsnHeaderRemotePartyId > shape{};
 
@@ -54,6 +54,3 @@ void sipsnHeaderRemotePartyIdSetGenericParams( SipsnHeaderRemotePartyId **hdr, S
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderRemotePartyIdStartup( void ) { sipsn::CreateName( sipsn___PbsRemotePartyId, "Remote-Party-Id" ); }
-void sipsn___HeaderRemotePartyIdShutdown( void ) { sipsn::DropName( sipsn___PbsRemotePartyId ); }

@@ -21,7 +21,7 @@ struct SipsnHeaderReplaces
                      &SipsnHeaderReplaces::earlyOnly, &SipsnHeaderReplaces::genericParams >;
 };
 
-PbString *sipsn___PbsReplaces;
+SIPSN_DEFINE_NAME( sipsn___HeaderReplaces, sipsn___PbsReplaces, "Replaces" )
 
 static SipsnHeaderReplaces *TryDecodeLine( PbString *line );
 static PbString            *EncodeLine( SipsnHeaderReplaces *hdr );
@@ -117,6 +117,3 @@ static PbString *EncodeLine( SipsnHeaderReplaces *hdr )
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderReplacesStartup( void ) { sipsn::CreateName( sipsn___PbsReplaces, "Replaces" ); }
-void sipsn___HeaderReplacesShutdown( void ) { sipsn::DropName( sipsn___PbsReplaces ); }

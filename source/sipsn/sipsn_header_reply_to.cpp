@@ -15,7 +15,7 @@ struct SipsnHeaderReplyTo
         pb::Members< &SipsnHeaderReplyTo::iri, &SipsnHeaderReplyTo::displayName, &SipsnHeaderReplyTo::genericParams >;
 };
 
-PbString *sipsn___PbsReplyTo;
+SIPSN_DEFINE_NAME( sipsn___HeaderReplyTo, sipsn___PbsReplyTo, "Reply-To" )
 
 static constexpr sipsn::Address< SipsnHeaderReplyTo > shape{};
 
@@ -50,6 +50,3 @@ void                sipsnHeaderReplyToSetGenericParams( SipsnHeaderReplyTo **hdr
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderReplyToStartup( void ) { sipsn::CreateName( sipsn___PbsReplyTo, "Reply-To" ); }
-void sipsn___HeaderReplyToShutdown( void ) { sipsn::DropName( sipsn___PbsReplyTo ); }

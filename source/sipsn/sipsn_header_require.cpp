@@ -16,7 +16,7 @@ struct SipsnHeaderRequire
     using Members = pb::Members< &SipsnHeaderRequire::items >;
 };
 
-PbString *sipsn___PbsRequire;
+SIPSN_DEFINE_NAME( sipsn___HeaderRequire, sipsn___PbsRequire, "Require" )
 
 static constexpr sipsn::Set< SipsnHeaderRequire > shape{
     .items  = &SipsnHeaderRequire::items,
@@ -64,6 +64,3 @@ void sipsnHeaderRequireDelOptionTagWcstr( SipsnHeaderRequire **hdr, const wchar_
 {
     sipsnHeaderRequireDelOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
 }
-
-void sipsn___HeaderRequireStartup( void ) { sipsn::CreateName( sipsn___PbsRequire, "Require" ); }
-void sipsn___HeaderRequireShutdown( void ) { sipsn::DropName( sipsn___PbsRequire ); }

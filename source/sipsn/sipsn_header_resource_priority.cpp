@@ -13,7 +13,7 @@ struct SipsnHeaderResourcePriority
     using Members = pb::Members< &SipsnHeaderResourcePriority::items >;
 };
 
-PbString *sipsn___PbsResourcePriority;
+SIPSN_DEFINE_NAME( sipsn___HeaderResourcePriority, sipsn___PbsResourcePriority, "Resource-Priority" )
 
 static constexpr sipsn::List< SipsnHeaderResourcePriority > shape{
     .items   = &SipsnHeaderResourcePriority::items,
@@ -39,9 +39,3 @@ PbString *sipsnHeaderResourcePriorityRvalueAt( SipsnHeaderResourcePriority *hdr,
 {
     return SIPSN_LIST_AT( hdr, index );
 }
-
-void sipsn___HeaderResourcePriorityStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsResourcePriority, "Resource-Priority" );
-}
-void sipsn___HeaderResourcePriorityShutdown( void ) { sipsn::DropName( sipsn___PbsResourcePriority ); }

@@ -20,7 +20,7 @@ struct SipsnHeaderRetryAfter
                                  &SipsnHeaderRetryAfter::genericParams >;
 };
 
-PbString *sipsn___PbsRetryAfter;
+SIPSN_DEFINE_NAME( sipsn___HeaderRetryAfter, sipsn___PbsRetryAfter, "Retry-After" )
 
 static SipsnHeaderRetryAfter *TryDecode( PbString *line );
 static PbString              *EncodeLine( SipsnHeaderRetryAfter *hdr );
@@ -92,6 +92,3 @@ static PbString *EncodeLine( SipsnHeaderRetryAfter *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderRetryAfterStartup( void ) { sipsn::CreateName( sipsn___PbsRetryAfter, "Retry-After" ); }
-void sipsn___HeaderRetryAfterShutdown( void ) { sipsn::DropName( sipsn___PbsRetryAfter ); }

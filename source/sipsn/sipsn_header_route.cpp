@@ -13,7 +13,7 @@ struct SipsnHeaderRoute
     using Members = pb::Members< &SipsnHeaderRoute::items >;
 };
 
-PbString *sipsn___PbsRoute;
+SIPSN_DEFINE_NAME( sipsn___HeaderRoute, sipsn___PbsRoute, "Route" )
 
 static constexpr sipsn::List< SipsnHeaderRoute > shape{
     .items   = &SipsnHeaderRoute::items,
@@ -31,6 +31,3 @@ SipsnRoute *sipsnHeaderRouteTryDecodeRouteAt( SipsnHeaderRoute *hdr, int64_t ind
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___RouteTryDecode );
 }
-
-void sipsn___HeaderRouteStartup( void ) { sipsn::CreateName( sipsn___PbsRoute, "Route" ); }
-void sipsn___HeaderRouteShutdown( void ) { sipsn::DropName( sipsn___PbsRoute ); }

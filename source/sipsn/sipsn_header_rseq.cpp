@@ -15,7 +15,7 @@ struct SipsnHeaderRseq
     using Members = pb::Members< &SipsnHeaderRseq::responseNum >;
 };
 
-PbString *sipsn___PbsRseq;
+SIPSN_DEFINE_NAME( sipsn___HeaderRseq, sipsn___PbsRseq, "Rseq" )
 
 static SipsnHeaderRseq *TryDecode( PbString *line );
 static PbString        *EncodeLine( SipsnHeaderRseq *hdr );
@@ -46,6 +46,3 @@ static SipsnHeaderRseq *TryDecode( PbString *line )
 }
 
 static PbString *EncodeLine( SipsnHeaderRseq *hdr ) { return pbFormatEncodeInt( hdr->responseNum, 10, 0, 0 ); }
-
-void sipsn___HeaderRseqStartup( void ) { sipsn::CreateName( sipsn___PbsRseq, "Rseq" ); }
-void sipsn___HeaderRseqShutdown( void ) { sipsn::DropName( sipsn___PbsRseq ); }

@@ -12,7 +12,7 @@ struct SipsnHeaderServer
     using Members = pb::Members< &SipsnHeaderServer::server >;
 };
 
-PbString *sipsn___PbsServer;
+SIPSN_DEFINE_NAME( sipsn___HeaderServer, sipsn___PbsServer, "Server" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderServer > shape{ .text = &SipsnHeaderServer::server, .ok = sipsnServerOk };
 
@@ -29,6 +29,3 @@ void      sipsnHeaderServerSetServer( SipsnHeaderServer **hdr, PbString *server 
 {
     PB_SET( hdr, server, sipsnServerOk( server ), pb::Retain( server ) );
 }
-
-void sipsn___HeaderServerStartup( void ) { sipsn::CreateName( sipsn___PbsServer, "Server" ); }
-void sipsn___HeaderServerShutdown( void ) { sipsn::DropName( sipsn___PbsServer ); }

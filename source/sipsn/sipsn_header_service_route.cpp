@@ -13,7 +13,7 @@ struct SipsnHeaderServiceRoute
     using Members = pb::Members< &SipsnHeaderServiceRoute::items >;
 };
 
-PbString *sipsn___PbsServiceRoute;
+SIPSN_DEFINE_NAME( sipsn___HeaderServiceRoute, sipsn___PbsServiceRoute, "Service-Route" )
 
 static constexpr sipsn::List< SipsnHeaderServiceRoute > shape{
     .items   = &SipsnHeaderServiceRoute::items,
@@ -33,6 +33,3 @@ SipsnRoute *sipsnHeaderServiceRouteTryDecodeRouteAt( SipsnHeaderServiceRoute *hd
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___RouteTryDecode );
 }
-
-void sipsn___HeaderServiceRouteStartup( void ) { sipsn::CreateName( sipsn___PbsServiceRoute, "Service-Route" ); }
-void sipsn___HeaderServiceRouteShutdown( void ) { sipsn::DropName( sipsn___PbsServiceRoute ); }

@@ -19,7 +19,7 @@ struct SipsnHeaderSessionExpires
                                  &SipsnHeaderSessionExpires::genericParams >;
 };
 
-PbString *sipsn___PbsSessionExpires;
+SIPSN_DEFINE_NAME( sipsn___HeaderSessionExpires, sipsn___PbsSessionExpires, "Session-Expires" )
 
 static SipsnHeaderSessionExpires *TryDecode( PbString *line );
 static PbString                  *EncodeLine( SipsnHeaderSessionExpires *hdr );
@@ -89,6 +89,3 @@ static PbString *EncodeLine( SipsnHeaderSessionExpires *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderSessionExpiresStartup( void ) { sipsn::CreateName( sipsn___PbsSessionExpires, "Session-Expires" ); }
-void sipsn___HeaderSessionExpiresShutdown( void ) { sipsn::DropName( sipsn___PbsSessionExpires ); }

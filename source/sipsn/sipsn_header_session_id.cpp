@@ -18,7 +18,7 @@ struct SipsnHeaderSessionId
                                  &SipsnHeaderSessionId::genericParams >;
 };
 
-PbString *sipsn___PbsSessionId;
+SIPSN_DEFINE_NAME( sipsn___HeaderSessionId, sipsn___PbsSessionId, "Session-Id" )
 
 static SipsnHeaderSessionId *TryDecode( PbString *line );
 static PbString             *EncodeLine( SipsnHeaderSessionId *hdr );
@@ -96,6 +96,3 @@ static PbString *EncodeLine( SipsnHeaderSessionId *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderSessionIdStartup( void ) { sipsn::CreateName( sipsn___PbsSessionId, "Session-Id" ); }
-void sipsn___HeaderSessionIdShutdown( void ) { sipsn::DropName( sipsn___PbsSessionId ); }

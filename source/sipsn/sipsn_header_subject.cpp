@@ -13,7 +13,7 @@ struct SipsnHeaderSubject
     using Members = pb::Members< &SipsnHeaderSubject::subject >;
 };
 
-PbString *sipsn___PbsSubject;
+SIPSN_DEFINE_NAME( sipsn___HeaderSubject, sipsn___PbsSubject, "Subject" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderSubject > shape{
     .text = &SipsnHeaderSubject::subject, .ok = sipsnSubjectOk, .normalized = sipsn::CollapseBlanks };
@@ -31,6 +31,3 @@ void      sipsnHeaderSubjectSetSubject( SipsnHeaderSubject **hdr, PbString *subj
 {
     PB_PUT( hdr, subject, sipsnSubjectNormalize( subject ) );
 }
-
-void sipsn___HeaderSubjectStartup( void ) { sipsn::CreateName( sipsn___PbsSubject, "Subject" ); }
-void sipsn___HeaderSubjectShutdown( void ) { sipsn::DropName( sipsn___PbsSubject ); }

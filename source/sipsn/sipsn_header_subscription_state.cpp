@@ -23,7 +23,7 @@ struct SipsnHeaderSubscriptionState
                                  &SipsnHeaderSubscriptionState::genericParams >;
 };
 
-PbString *sipsn___PbsSubscriptionState;
+SIPSN_DEFINE_NAME( sipsn___HeaderSubscriptionState, sipsn___PbsSubscriptionState, "Subscription-State" )
 
 static SipsnHeaderSubscriptionState *TryDecode( PbString *line );
 static PbString                     *EncodeLine( SipsnHeaderSubscriptionState *hdr );
@@ -135,10 +135,3 @@ static PbString *EncodeLine( SipsnHeaderSubscriptionState *hdr )
         params.Generic();
     } );
 }
-
-void sipsn___HeaderSubscriptionStateStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsSubscriptionState, "Subscription-State" );
-}
-
-void sipsn___HeaderSubscriptionStateShutdown( void ) { sipsn::DropName( sipsn___PbsSubscriptionState ); }

@@ -16,7 +16,7 @@ struct SipsnHeaderSupported
     using Members = pb::Members< &SipsnHeaderSupported::items >;
 };
 
-PbString *sipsn___PbsSupported;
+SIPSN_DEFINE_NAME( sipsn___HeaderSupported, sipsn___PbsSupported, "Supported" )
 
 static constexpr sipsn::Set< SipsnHeaderSupported > shape{
     .items  = &SipsnHeaderSupported::items,
@@ -67,6 +67,3 @@ void sipsnHeaderSupportedDelOptionTagWcstr( SipsnHeaderSupported **hdr, const wc
 {
     sipsnHeaderSupportedDelOptionTag( hdr, StringFrom( optionTag, optionTagLength ).Get() );
 }
-
-void sipsn___HeaderSupportedStartup( void ) { sipsn::CreateName( sipsn___PbsSupported, "Supported" ); }
-void sipsn___HeaderSupportedShutdown( void ) { sipsn::DropName( sipsn___PbsSupported ); }

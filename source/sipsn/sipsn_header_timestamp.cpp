@@ -12,7 +12,7 @@ struct SipsnHeaderTimestamp
     using Members = pb::Members< &SipsnHeaderTimestamp::timestampValue >;
 };
 
-PbString *sipsn___PbsTimestamp;
+SIPSN_DEFINE_NAME( sipsn___HeaderTimestamp, sipsn___PbsTimestamp, "Timestamp" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderTimestamp > shape{ .text = &SipsnHeaderTimestamp::timestampValue,
                                                                  .ok   = sipsnTimestampValueOk };
@@ -30,6 +30,3 @@ void      sipsnHeaderTimestampSetTimestampValue( SipsnHeaderTimestamp **hdr, PbS
 {
     PB_SET( hdr, timestampValue, sipsnTimestampValueOk( timestampValue ), pb::Retain( timestampValue ) );
 }
-
-void sipsn___HeaderTimestampStartup( void ) { sipsn::CreateName( sipsn___PbsTimestamp, "Timestamp" ); }
-void sipsn___HeaderTimestampShutdown( void ) { sipsn::DropName( sipsn___PbsTimestamp ); }

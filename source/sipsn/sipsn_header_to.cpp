@@ -18,7 +18,7 @@ struct SipsnHeaderTo
                                  &SipsnHeaderTo::epid, &SipsnHeaderTo::genericParams >;
 };
 
-PbString *sipsn___PbsTo;
+SIPSN_DEFINE_NAME( sipsn___HeaderTo, sipsn___PbsTo, "To" )
 
 static constexpr auto shape = sipsn::dialogParty< SipsnHeaderTo >;
 
@@ -81,6 +81,3 @@ void                sipsnHeaderToSetGenericParams( SipsnHeaderTo **hdr, SipsnGen
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderToStartup( void ) { sipsn::CreateName( sipsn___PbsTo, "To" ); }
-void sipsn___HeaderToShutdown( void ) { sipsn::DropName( sipsn___PbsTo ); }

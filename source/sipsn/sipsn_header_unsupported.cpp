@@ -14,7 +14,7 @@ struct SipsnHeaderUnsupported
     using Members = pb::Members< &SipsnHeaderUnsupported::items >;
 };
 
-PbString *sipsn___PbsUnsupported;
+SIPSN_DEFINE_NAME( sipsn___HeaderUnsupported, sipsn___PbsUnsupported, "Unsupported" )
 
 static constexpr sipsn::Set< SipsnHeaderUnsupported > shape{
     .items  = &SipsnHeaderUnsupported::items,
@@ -33,6 +33,3 @@ static PbString *Key( PbString *optionTag )
 SIPSN_DEFINE_SET( SipsnHeaderUnsupported, sipsnHeaderUnsupported, OptionTags, OptionTag, optionTag, Key )
 
 SipsnHeaderUnsupported *sipsnHeaderUnsupportedCreate( void ) { return shape.Create(); }
-
-void sipsn___HeaderUnsupportedStartup( void ) { sipsn::CreateName( sipsn___PbsUnsupported, "Unsupported" ); }
-void sipsn___HeaderUnsupportedShutdown( void ) { sipsn::DropName( sipsn___PbsUnsupported ); }

@@ -12,7 +12,7 @@ struct SipsnHeaderUserAgent
     using Members = pb::Members< &SipsnHeaderUserAgent::userAgent >;
 };
 
-PbString *sipsn___PbsUserAgent;
+SIPSN_DEFINE_NAME( sipsn___HeaderUserAgent, sipsn___PbsUserAgent, "User-Agent" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderUserAgent > shape{ .text = &SipsnHeaderUserAgent::userAgent,
                                                                  .ok   = sipsnUserAgentOk };
@@ -30,6 +30,3 @@ void      sipsnHeaderUserAgentSetUserAgent( SipsnHeaderUserAgent **hdr, PbString
 {
     PB_SET( hdr, userAgent, sipsnUserAgentOk( userAgent ), pb::Retain( userAgent ) );
 }
-
-void sipsn___HeaderUserAgentStartup( void ) { sipsn::CreateName( sipsn___PbsUserAgent, "User-Agent" ); }
-void sipsn___HeaderUserAgentShutdown( void ) { sipsn::DropName( sipsn___PbsUserAgent ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderUserToUser
     using Members = pb::Members< &SipsnHeaderUserToUser::items >;
 };
 
-PbString *sipsn___PbsUserToUser;
+SIPSN_DEFINE_NAME( sipsn___HeaderUserToUser, sipsn___PbsUserToUser, "User-to-User" )
 
 static constexpr sipsn::List< SipsnHeaderUserToUser > shape{
     .items   = &SipsnHeaderUserToUser::items,
@@ -33,6 +33,3 @@ SipsnUuiValue *sipsnHeaderUserToUserTryDecodeUuiValueAt( SipsnHeaderUserToUser *
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___UuiValueTryDecode );
 }
-
-void sipsn___HeaderUserToUserStartup( void ) { sipsn::CreateName( sipsn___PbsUserToUser, "User-to-User" ); }
-void sipsn___HeaderUserToUserShutdown( void ) { sipsn::DropName( sipsn___PbsUserToUser ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderVia
     using Members = pb::Members< &SipsnHeaderVia::items >;
 };
 
-PbString *sipsn___PbsVia;
+SIPSN_DEFINE_NAME( sipsn___HeaderVia, sipsn___PbsVia, "Via" )
 
 static constexpr sipsn::List< SipsnHeaderVia > shape{
     .items   = &SipsnHeaderVia::items,
@@ -31,6 +31,3 @@ SipsnVia *sipsnHeaderViaTryDecodeViaAt( SipsnHeaderVia *hdr, int64_t index )
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___ViaTryDecode );
 }
-
-void sipsn___HeaderViaStartup( void ) { sipsn::CreateName( sipsn___PbsVia, "Via" ); }
-void sipsn___HeaderViaShutdown( void ) { sipsn::DropName( sipsn___PbsVia ); }

@@ -13,7 +13,7 @@ struct SipsnHeaderWarning
     using Members = pb::Members< &SipsnHeaderWarning::items >;
 };
 
-PbString *sipsn___PbsWarning;
+SIPSN_DEFINE_NAME( sipsn___HeaderWarning, sipsn___PbsWarning, "Warning" )
 
 static constexpr sipsn::List< SipsnHeaderWarning > shape{
     .items   = &SipsnHeaderWarning::items,
@@ -32,6 +32,3 @@ SipsnWarningValue *sipsnHeaderWarningTryDecodeWarningAt( SipsnHeaderWarning *hdr
 {
     return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___WarningValueTryDecode );
 }
-
-void sipsn___HeaderWarningStartup( void ) { sipsn::CreateName( sipsn___PbsWarning, "Warning" ); }
-void sipsn___HeaderWarningShutdown( void ) { sipsn::DropName( sipsn___PbsWarning ); }

@@ -334,6 +334,8 @@ void sipsnMessageFragmentSetHeader( SipsnMessageFragment **frag, SipsnMessageHea
     PB_ASSERT_SLOT( frag );
     PB_ASSERT( header );
     PB_UNSHARE( frag );
+    pb::Del( ( *frag )->mayHold );
+    pb::Del( ( *frag )->mayHold64 );
     pbDictSetStringKey( &( *frag )->headers, header->name, sipsnMessageHeaderObj( header ) );
 }
 

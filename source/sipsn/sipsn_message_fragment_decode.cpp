@@ -37,9 +37,15 @@ struct Bytes
 
 bool IsBlank( PbByte byte ) { return byte == ' ' || byte == '\t'; }
 
-inline Bytes Trim( Bytes text )
+inline Bytes SkipBlanks( Bytes text )
 {
     while( !text.Empty() && IsBlank( text.Front() ) ) text = text.From( 1 );
+    return text;
+}
+
+inline Bytes Trim( Bytes text )
+{
+    text = SkipBlanks( text );
     while( !text.Empty() && IsBlank( text.data[ text.length - 1 ] ) ) --text.length;
     return text;
 }
@@ -127,11 +133,14 @@ StartLine TryDecodeRequestLine( SipsnMessageFragment **frag, Bytes method, Bytes
     if( !version || !uriString ) return StartLine::malformed;
     pb::Ref iri{ iriTryConvertFromUri( uriString.Get() ) };
     if( !iri ) return StartLine::malformed;
-    sipsnMessageFragmentSetRequest( frag, version.Get(), methodString.Get(), iri.Get() );
+    ( *frag )->version       = version.Detach();
+    ( *frag )->requestMethod = methodString.Detach();
+    ( *frag )->requestIri    = iri.Detach();
     return StartLine::read;
 }
 
-// The status line is tried first, as a protocol version is no method. Pieces are cut at single spaces.
+// Into a new fragment. The status line is tried first, as a protocol version is no method. Pieces are cut at single
+// spaces.
 StartLine TryDecodeStartLine( SipsnMessageFragment **frag, Bytes line )
 {
     const int64_t firstSpace = Find( line, ' ' );
@@ -150,7 +159,7 @@ StartLine TryDecodeStartLine( SipsnMessageFragment **frag, Bytes line )
 class DecodedHeaders
 {
 public:
-    explicit DecodedHeaders( PbDict **headers ) : headers_{ headers } {}
+    explicit DecodedHeaders( SipsnMessageFragment *frag ) : frag_{ frag }, headers_{ &frag->headers } {}
     DecodedHeaders( const DecodedHeaders & ) = delete;
     ~DecodedHeaders()
     {
@@ -182,6 +191,8 @@ public:
     // Whichever are fewer are inserted among the rest.
     void MoveToDict()
     {
+        frag_->mayHold               = int64_t( present_[ 0 ] );
+        frag_->mayHold64             = int64_t( present_[ 1 ] );
         const int64_t     knownCount = std::popcount( present_[ 0 ] ) + std::popcount( present_[ 1 ] );
         const int64_t     otherCount = pbDictLength( *headers_ );
         pb::Ref< PbDict > others;
@@ -205,9 +216,10 @@ private:
     }
 
     static_assert( headerNameCount <= 128 );
-    uint64_t            present_[ 2 ] = {}; // one bit for each known name
-    SipsnMessageHeader *known_[ headerNameCount ];
-    PbDict            **headers_;
+    uint64_t              present_[ 2 ] = {}; // one bit for each known name
+    SipsnMessageHeader   *known_[ headerNameCount ];
+    SipsnMessageFragment *frag_;
+    PbDict              **headers_;
 };
 
 // One logical line, trimmed and not empty. Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
@@ -215,9 +227,9 @@ bool TryDecodeField( DecodedHeaders &headers, Bytes field )
 {
     const HeaderNameToken name = ScanHeaderName( field.data, field.length );
     if( name.length == 0 ) return false;
-    Bytes rest = Trim( field.From( name.length ) );
+    Bytes rest = SkipBlanks( field.From( name.length ) );
     if( rest.Empty() || rest.Front() != ':' ) return false;
-    rest = Trim( rest.From( 1 ) );
+    rest = SkipBlanks( rest.From( 1 ) );
 
     PbString *value = pb___StringTryCreateFromUtf8( rest.data, rest.length );
     if( !value ) return false;
@@ -327,7 +339,7 @@ SipsnMessageFragment *TryDecodeHeaders( const PbByte *bytes, int64_t length, int
     case StartLine::read: text = afterFirst; break;
     case StartLine::none: break;
     }
-    DecodedHeaders headers{ &frag->headers };
+    DecodedHeaders headers{ frag.Get() };
     if( !TryDecodeFields( headers, text ) ) return nullptr;
     headers.MoveToDict();
     if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) return nullptr;

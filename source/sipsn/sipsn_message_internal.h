@@ -38,13 +38,15 @@ struct SipsnMessageFragment
     int64_t       responseStatusCode;
     PbString     *responseReasonPhrase;
     SipsnVersion *version;
-    PbDict       *headers; // canonical name to SipsnMessageHeader
+    PbDict       *headers;            // canonical name to SipsnMessageHeader
+    int64_t       mayHold, mayHold64; // a bit for each known name of which there may be one; all ones know nothing
     PbBuffer     *body;
 
     using Members =
         pb::Members< &SipsnMessageFragment::requestMethod, &SipsnMessageFragment::requestIri,
                      &SipsnMessageFragment::responseStatusCode, &SipsnMessageFragment::responseReasonPhrase,
-                     &SipsnMessageFragment::version, &SipsnMessageFragment::headers, &SipsnMessageFragment::body >;
+                     &SipsnMessageFragment::version, &SipsnMessageFragment::headers, &SipsnMessageFragment::mayHold,
+                     &SipsnMessageFragment::mayHold64, &SipsnMessageFragment::body >;
     using CompareOrder = pb::ByAddress;
 };
 
@@ -102,6 +104,12 @@ inline PbString *PeekLine( const SipsnMessageHeader *header, int64_t index )
 inline SipsnMessageHeader *PeekHeader( SipsnMessageFragment *frag, PbString *canonicalName )
 {
     return reinterpret_cast< SipsnMessageHeader * >( pb___DictPeek( frag->headers, canonicalName ) );
+}
+
+// Whether there may be a header of the known name of that number. Decoding tells exactly, setting a header forgets it.
+inline bool MayHold( const SipsnMessageFragment *frag, int64_t number )
+{
+    return ( ( number < 64 ? frag->mayHold : frag->mayHold64 ) >> ( number % 64 ) & 1 ) != 0;
 }
 
 // The fragment's Content-Length header, without a reference of its own, or null.

@@ -20,6 +20,9 @@ PbString *sipsn___QuotableStringTryDecode( const PbChar *chs, int64_t length )
     if( !sipsn::Matches( chs, length, sipsn___SkipQuotedString ) ) return nullptr;
 
     const int64_t begin = sipsn___SkipSws( chs, length ) + 1;
+    const int64_t count = length - 1 - begin;
+    if( pb::CountRun< false >( sipsn::charClasses, sipsn::QuoteStop, chs + begin, count ) == count )
+        return pbStringCreateFromCharsCopy( chs + begin, count );
     return sipsn::StringOf( [ = ]( auto put ) {
         for( int64_t i = begin; i < length - 1; ++i ) {
             if( chs[ i ] == '\\' ) ++i;

@@ -59,12 +59,24 @@ private:
 
 template< CharClass mask > int64_t SkipRun( Text text )
 {
+    return pb::CountRun< true >( sipsn::charClasses, mask, text.chs, text.length );
+}
+
+// The first place from n on where a character of the class stands, or the end.
+template< CharClass mask > int64_t Find( Text text, int64_t n )
+{
+    const Text rest = text.From( n );
+    return n + pb::CountRun< false >( sipsn::charClasses, mask, rest.chs, rest.length );
+}
+
+// Nearly always none or one.
+int64_t SkipSws( Text text )
+{
     int64_t n = 0;
-    while( text.Is( n, mask ) ) ++n;
+    while( text.Is( n, sipsn::Lws ) ) ++n;
     return n;
 }
 
-constexpr auto SkipSws        = SkipRun< sipsn::Lws >;
 constexpr auto SkipToken      = SkipRun< sipsn::Token >;
 constexpr auto SkipTokenNodot = SkipRun< sipsn::TokenNodot >;
 constexpr auto SkipAtom       = SkipRun< sipsn::Atom >;
@@ -96,13 +108,17 @@ int64_t SkipCharSws( Text text, PbChar ch ) { return text.Has( 0, ch ) ? 1 + Ski
 
 int64_t SkipSwsChar( Text text, PbChar ch )
 {
+    if( ch > ' ' && text.Has( 0, ch ) ) return 1;
     const int64_t sws = SkipSws( text );
     return text.Has( sws, ch ) ? sws + 1 : 0;
 }
 
 int64_t SkipSwsCharSws( Text text, PbChar ch )
 {
-    if( text.length > 1 && text[ 0 ] == ch && text[ 1 ] > ' ' ) return 1; // as canonical text has it
+    if( ch > ' ' && text.length > 2 && text[ 0 ] == ch ) { // as nearly all text has it
+        if( text[ 1 ] > ' ' ) return 1;
+        if( text[ 1 ] == ' ' && text[ 2 ] > ' ' ) return 2;
+    }
     const int64_t count = SkipSwsChar( text, ch );
     return count > 0 ? count + SkipSws( text.From( count ) ) : 0;
 }
@@ -167,7 +183,7 @@ int64_t SkipQuotedString( Text text )
     int64_t n = SkipSwsChar( text, '"' );
     if( n == 0 ) return 0;
     for( ;; ) {
-        while( n < text.length && !sipsn::Is( text[ n ], sipsn::QuoteStop ) ) ++n;
+        n = Find< sipsn::QuoteStop >( text, n );
         if( text.Has( n, '"' ) ) return n + 1;
         if( !text.Has( n, '\\' ) || !IsQuotable( text, n + 1 ) ) return 0;
         n += 2;
@@ -225,16 +241,32 @@ int64_t SkipDomainLabel( Text text )
         const int64_t run = SkipEscapedRun< sipsn::Alphanum >( text.From( n ) );
         if( run == 0 ) return label;
         label = n + run;
-        n     = label + SkipRun< sipsn::Hyphen >( text.From( label ) );
+        if( !text.Has( label, '-' ) ) return label;
+        n = label + SkipRun< sipsn::Hyphen >( text.From( label ) );
     }
 }
 
+// SkipDomainLabel *( "." SkipDomainLabel ) [ "." ], in one pass.
 int64_t SkipHostname( Text text )
 {
-    Walk walk{ text };
-    while( walk.Take( SkipDomainLabel ) && walk.TakeChar( '.' ) ) {
+    int64_t count  = 0; // up to the last letter, digit, escape or dot
+    bool    within = false;
+    for( int64_t n = 0;; ) {
+        if( text.Is( n, sipsn::Alphanum ) ) {
+            count  = ++n;
+            within = true;
+        } else if( within && text.Has( n, '.' ) && count == n ) {
+            count  = ++n;
+            within = false;
+        } else if( within && text.Has( n, '-' ) ) {
+            ++n;
+        } else if( StartsWithEscape( text.From( n ) ) ) {
+            count  = n += 3;
+            within = true;
+        } else {
+            return count;
+        }
     }
-    return walk.Count();
 }
 
 // The longest of host name, IPv4 address and IPv6 reference: no other one begins with "[", and the characters of an
@@ -247,13 +279,6 @@ int64_t SkipHostPort( Text text )
     if( host == 0 || !text.Has( host, ':' ) ) return host;
     const int64_t port = SkipPort( text.From( host + 1 ) );
     return port > 0 ? host + 1 + port : host;
-}
-
-// The first place from n on where a character of the class stands, or the end.
-template< CharClass mask > int64_t Find( Text text, int64_t n )
-{
-    while( n < text.length && !sipsn::Is( text[ n ], mask ) ) ++n;
-    return n;
 }
 
 // The IRI that the text before the first ";" begins with.
@@ -518,7 +543,7 @@ int64_t SkipName( Text text, std::string_view names, int64_t first, int64_t *num
 
 // ---- Arguments -------------------------------------------------------------------------------------
 
-Text Checked( const PbChar *chs, int64_t length )
+[[gnu::always_inline]] inline Text Checked( const PbChar *chs, int64_t length )
 {
     PB_ASSERT( length >= 0 );
     PB_ASSERT( chs || length == 0 );

@@ -136,8 +136,14 @@ inline PbString *ToUpper( PbString *string ) { return MapCase< 'a', pbStringToUp
 // The characters as one whole decimal integer of 0 to `highest`, or -1.
 inline int64_t DecodeInt( const PbChar *chs, int64_t length, int64_t highest )
 {
-    int64_t value     = -1;
+    constexpr int64_t safeLength = 18; // so many digits fit
+
+    int64_t value     = 0;
     int64_t charsRead = 0;
+    if( length <= safeLength )
+        for( ; charsRead < length && Is( chs[ charsRead ], Digit ); ++charsRead )
+            value = value * 10 + ( chs[ charsRead ] - '0' );
+    if( length > 0 && charsRead == length ) return value <= highest ? value : -1;
     if( !pbFormatTryDecodeIntChars( chs, length, 10, &value, &charsRead ) ) return -1;
     return charsRead == length && value >= 0 && value <= highest ? value : -1;
 }

@@ -99,7 +99,7 @@ inline std::string TextOfLines( SipsnMessageHeader *field )
 
 inline bool SameHeader( PbObj *a, PbObj *b ) { return a && b ? pbObjCompare( a, b ) == 0 : a == b; }
 
-// Into a message that has such a field already, and out of it again.
+// Into a message that has such a field already, over the wire, and out of it again.
 inline void CheckMessageRoundTrip( const HeaderFamily &family, PbObj *hdr )
 {
     auto    msg = Message( "OPTIONS sip:a@b SIP/2.0\r\nX-Other: 1\r\n\r\n" );
@@ -114,6 +114,10 @@ inline void CheckMessageRoundTrip( const HeaderFamily &family, PbObj *hdr )
     const pb::Ref found{ family.tryDecodeFromMessage( msg.Get() ) };
     EXPECT_EQ( Lines( field.Get() ), lines );
     EXPECT_TRUE( lines.empty() ? !found : SameHeader( found.Get(), hdr ) );
+
+    pb::Ref wire{ sipsnMessageEncode( msg.Get() ) };
+    pb::Ref decoded{ sipsnMessageTryDecode( wire.Get() ) };
+    EXPECT_EQ( family.presentInMessage( decoded.Get() ), !lines.empty() );
 
     family.removeFromMessage( msg.Slot() );
     EXPECT_FALSE( family.presentInMessage( msg.Get() ) );

@@ -101,6 +101,13 @@ TEST( SkipTest, GivenCharacter )
     EXPECT_EQ( sipsn___SkipSwsCharSws( spaced.chs.get(), spaced.length, '@' ), 5 );
     EXPECT_EQ( sipsn___SkipSwsCharSws( spaced.chs.get(), spaced.length, 'x' ), 0 );
 
+    for( const char32_t *text : { U"@", U"@x", U"@ x", U"@  x" } ) { // all but the last character
+        const Block item{ text };
+        EXPECT_EQ( sipsn___SkipSwsCharSws( item.chs.get(), item.length, '@' ), item.length == 1 ? 1 : item.length - 1 );
+    }
+    EXPECT_EQ( sipsn___SkipSwsChar( spaced.chs.get(), spaced.length, ' ' ), 0 ) << "a blank is taken for whitespace";
+    EXPECT_EQ( sipsn___SkipSwsCharSws( spaced.chs.get(), spaced.length, ' ' ), 0 );
+
     const Block direct{ U"\U0010FFFF  " };
     EXPECT_EQ( sipsn___SkipChar( direct.chs.get(), direct.length, 0x10FFFF ), 1 );
     EXPECT_EQ( sipsn___SkipChar( direct.chs.get(), 0, 0x10FFFF ), 0 );
