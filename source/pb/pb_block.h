@@ -71,7 +71,7 @@ inline void FreeBlock( void *block, uint32_t blockClass )
 #else
 
 inline void *TryTakeBlock( size_t ) { return nullptr; }
-inline void FreeBlock( void *block, uint32_t ) { pbMemFree( block ); }
+inline void  FreeBlock( void *block, uint32_t ) { pbMemFree( block ); }
 
 #endif
 

@@ -1,7 +1,7 @@
 // Runs of characters of one class, which scanners are made of. C++ only; never installed.
 //
-// A table has bits for each ASCII character, one for each class that it belongs to. A class is given as its bit; several
-// bits or-ed together are the union of their classes. No class holds characters beyond ASCII.
+// A table has bits for each ASCII character, one for each class that it belongs to. A class is given as its bit;
+// several bits or-ed together are the union of their classes. No class holds characters beyond ASCII.
 #pragma once
 
 #include "pb_types.h"
