@@ -8,6 +8,7 @@
 #include "sipsn_header_names.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_method.h"
+#include "sipsn_token_frame.h"
 #include "sipsn_token_internal.h"
 
 #include "iri/iri.h"
@@ -297,11 +298,8 @@ bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
     if( count == 0 ) return true;
 
     const PbString *line = PeekLine( header, count - 1 );
-    int64_t         value, charsRead;
-    if( !pbFormatTryDecodeIntChars( line->chs, line->length, 10, &value, &charsRead ) ) return false;
-    if( charsRead != line->length || value < 0 ) return false;
-    *contentLength = value;
-    return true;
+    *contentLength       = DecodeInt( line->chs, line->length, INT64_MAX );
+    return *contentLength >= 0;
 }
 
 } // namespace
