@@ -92,9 +92,12 @@ std::string ReasonNotToAnswer( SipsnMessage *message )
     if( Utf8( Owned{ sipsnMessageRequestMethod( message ) } ) == "ACK" ) return "an ACK, which has no response";
     for( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } ) {
         const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderCstr( message, name, -1 ) };
-        if( !header ) return std::string( "no " ) + name + ", without which there is no response";
-        const std::vector< BadLine > bad = FindBadLines( *FindFamily( name ), header.Get() );
+        const std::string missing = std::string( "no " ) + name + ", without which there is no response";
+        if( !header ) return missing;
+        const Family                &family = *FindFamily( name );
+        const std::vector< BadLine > bad    = FindBadLines( family, header.Get() );
         if( !bad.empty() ) return bad[ 0 ].reason;
+        if( family.shape == Shape::list && family.tryDecode( header.Get() )->items.empty() ) return missing;
     }
     return {};
 }

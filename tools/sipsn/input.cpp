@@ -47,20 +47,6 @@ size_t TakeMessage( std::string_view bytes, Owned< SipsnMessage > &message )
     return message ? bodyBegin + bodyLength : 0;
 }
 
-// Line by line, for a terminal.
-std::string Displayable( std::string_view wire )
-{
-    std::string result;
-    while( !wire.empty() ) {
-        const size_t     end  = std::min( wire.find( '\n' ), wire.size() );
-        std::string_view line = wire.substr( 0, end );
-        if( line.ends_with( '\r' ) ) line.remove_suffix( 1 );
-        result += Escape( line ) + '\n';
-        wire.remove_prefix( std::min( end + 1, wire.size() ) );
-    }
-    return result;
-}
-
 } // namespace
 
 std::optional< Input > TryReadInput( const std::string &path )
@@ -126,7 +112,7 @@ Status ComplainOfFaults( const Input &input, const std::vector< FoundMessage > &
 void PrintWire( SipsnMessage *message )
 {
     const Owned< PbBuffer > wire{ sipsnMessageEncode( message ) };
-    Print( OutputIsTerminal() ? Displayable( Bytes( wire.Get() ) ) : Bytes( wire.Get() ) );
+    Print( OutputIsTerminal() ? EscapeLines( Bytes( wire.Get() ) ) : Bytes( wire.Get() ) );
 }
 
 std::string StartLine( SipsnMessage *message )

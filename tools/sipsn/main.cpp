@@ -4,6 +4,8 @@
 
 #include <cstdio>
 #include <exception>
+#include <iostream>
+#include <sstream>
 
 namespace {
 
@@ -27,7 +29,8 @@ void PrintVersion()
     };
     const auto number = []( int64_t part ) { return std::to_string( part ); };
     print( "product", std::string( record->productName ) + ' ' + number( record->productMajor ) + '.' +
-                          number( record->productMinor ) + '.' + number( record->productPatch ) );
+                          number( record->productMinor ) + '.' + number( record->productPatch ) + " (" +
+                          record->productTraceName + ')' );
     print( "company", record->companyName );
     print( "rights", record->rightsNotice );
     print( "module",
@@ -68,7 +71,10 @@ tool::Status Run( int count, char **arguments )
     try {
         app.parse( count, arguments );
     } catch( const CLI::ParseError &error ) {
-        return app.exit( error ) == 0 ? tool::allWell : tool::cannotRun;
+        std::ostringstream complaint; // holds arguments as they were given
+        const int          status = app.exit( error, std::cout, complaint );
+        std::fputs( tool::EscapeLines( complaint.str() ).c_str(), stderr );
+        return status == 0 ? tool::allWell : tool::cannotRun;
     }
     if( task ) return task();
     std::fputs( app.help().c_str(), stderr );

@@ -117,6 +117,19 @@ std::string Escape( std::string_view utf8 )
     } );
 }
 
+std::string EscapeLines( std::string_view text )
+{
+    std::string result;
+    while( !text.empty() ) {
+        const size_t     end  = std::min( text.find( '\n' ), text.size() );
+        std::string_view line = text.substr( 0, end );
+        if( line.ends_with( '\r' ) ) line.remove_suffix( 1 );
+        result += Escape( line ) + '\n';
+        text.remove_prefix( std::min( end + 1, text.size() ) );
+    }
+    return result;
+}
+
 std::string EscapeJson( std::string_view utf8 )
 {
     return EscapeWith( utf8, []( PbChar ch, PbByte ) -> std::string {

@@ -24,6 +24,9 @@ std::optional< std::string > TryUtf8( std::string_view bytes );
 // \u202E, bytes that are no UTF-8 as \xFF. Everything else stays.
 std::string Escape( std::string_view utf8 );
 
+// The same line by line: line ends stay, as the terminal's own.
+std::string EscapeLines( std::string_view text );
+
 // The same with escapes that JSON knows, for JSON text, in which such characters stand within strings alone.
 std::string EscapeJson( std::string_view utf8 );
 
