@@ -9,7 +9,7 @@
 
 #include "sipsn_message.h"
 
-/* clang-format off: the lists below are to stay as they are. */
+/* clang-format off */
 
 /* SIPSN_DECLARE_HEADER( SipsnHeaderVia, sipsnHeaderVia ) declares, beyond PB_DECLARE_TYPE:
  *
@@ -40,9 +40,9 @@
  *     int64_t sipsnHeaderViaViasLength( SipsnHeaderVia *hdr );
  *     void    sipsnHeaderViaAppendVia( SipsnHeaderVia **hdr, SipsnVia *via );
  *     void    sipsnHeaderViaPrependVia( SipsnHeaderVia **hdr, SipsnVia *via );
- *     void    sipsnHeaderViaInsertVia( SipsnHeaderVia **hdr, int64_t index, SipsnVia *via );   -- before the one at
- * index void    sipsnHeaderViaSetViaAt( SipsnHeaderVia **hdr, int64_t index, SipsnVia *via ); void
- * sipsnHeaderViaDelViaAt( SipsnHeaderVia **hdr, int64_t index ); */
+ *     void    sipsnHeaderViaInsertVia( SipsnHeaderVia **hdr, int64_t index, SipsnVia *via ); -- before the one at index
+ *     void    sipsnHeaderViaSetViaAt( SipsnHeaderVia **hdr, int64_t index, SipsnVia *via );
+ *     void    sipsnHeaderViaDelViaAt( SipsnHeaderVia **hdr, int64_t index ); */
 #define SIPSN_DECLARE_LIST( Type, prefix, Items, Item, Value, value )                                                  \
     PB_API int64_t prefix##Items##Length( Type *hdr );                                                                 \
     PB_API void    prefix##Append##Item( Type **hdr, Value *value );                                                   \
@@ -56,12 +56,12 @@
  *
  *     int64_t   sipsnHeaderAllowMethodsLength( SipsnHeaderAllow *hdr );
  *     PbString *sipsnHeaderAllowMethodAt( SipsnHeaderAllow *hdr, int64_t index );
- *     PbVector *sipsnHeaderAllowMethodsVector( SipsnHeaderAllow *hdr );                          -- all, as a new
- * vector void      sipsnHeaderAllowSetMethodsVector( SipsnHeaderAllow **hdr, PbVector *vec );       -- the texts of its
- * elements bool      sipsnHeaderAllowHasMethod( SipsnHeaderAllow *hdr, PbString *method ); void
- * sipsnHeaderAllowSetMethod( SipsnHeaderAllow **hdr, PbString *method ); void      sipsnHeaderAllowDelMethod(
- * SipsnHeaderAllow **hdr, PbString *method );           -- an absent one is no error void sipsnHeaderAllowClearMethods(
- * SipsnHeaderAllow **hdr ); */
+ *     PbVector *sipsnHeaderAllowMethodsVector( SipsnHeaderAllow *hdr );                    -- all, as a new vector
+ *     void      sipsnHeaderAllowSetMethodsVector( SipsnHeaderAllow **hdr, PbVector *vec ); -- the texts of its elements
+ *     bool      sipsnHeaderAllowHasMethod( SipsnHeaderAllow *hdr, PbString *method );
+ *     void      sipsnHeaderAllowSetMethod( SipsnHeaderAllow **hdr, PbString *method );
+ *     void      sipsnHeaderAllowDelMethod( SipsnHeaderAllow **hdr, PbString *method );     -- an absent one is no error
+ *     void      sipsnHeaderAllowClearMethods( SipsnHeaderAllow **hdr ); */
 #define SIPSN_DECLARE_SET( Type, prefix, Items, Item, token )                                                          \
     PB_API int64_t   prefix##Items##Length( Type *hdr );                                                               \
     PB_API PbString *prefix##Item##At( Type *hdr, int64_t index );                                                     \

@@ -79,5 +79,3 @@ void                sipsnHeaderFromSetGenericParams( SipsnHeaderFrom **hdr, Sips
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

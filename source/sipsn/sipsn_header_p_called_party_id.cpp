@@ -52,5 +52,3 @@ void sipsnHeaderPCalledPartyIdSetGenericParams( SipsnHeaderPCalledPartyId **hdr,
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

@@ -49,5 +49,3 @@ void                sipsnHeaderReferToSetGenericParams( SipsnHeaderReferTo **hdr
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

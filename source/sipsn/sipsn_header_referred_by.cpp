@@ -73,5 +73,3 @@ void sipsnHeaderReferredBySetGenericParams( SipsnHeaderReferredBy **hdr, SipsnGe
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

@@ -52,5 +52,3 @@ void sipsnHeaderRemotePartyIdSetGenericParams( SipsnHeaderRemotePartyId **hdr, S
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

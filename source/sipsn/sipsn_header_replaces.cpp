@@ -115,5 +115,3 @@ static PbString *EncodeLine( SipsnHeaderReplaces *hdr )
         params.Generic();
     } );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

@@ -48,5 +48,3 @@ void                sipsnHeaderReplyToSetGenericParams( SipsnHeaderReplyTo **hdr
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------

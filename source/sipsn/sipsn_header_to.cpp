@@ -79,5 +79,3 @@ void                sipsnHeaderToSetGenericParams( SipsnHeaderTo **hdr, SipsnGen
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
 }
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------
