@@ -387,8 +387,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
 
 // One per accessor, as the whole of its body: `return PB_GET( reason, cause );`, `PB_DEL( reason, cause );`. `self` is
 // the function's first parameter. In PB_SET, `check` is the condition on the new value and `stored` the reference or
-// number that goes into the member; PB_PUT is for what needs no check: flags, and what
-// a normaliser has checked.
+// number that goes into the member; PB_PUT is for what needs no check: flags, and what a normaliser has checked.
 #define PB_GET( self, member ) ( PB_ABORT_UNLESS( nullptr, #self, self ), pb::Share( self->member ) )
 #define PB_HAS( self, member ) ( PB_ABORT_UNLESS( nullptr, #self, self ), pb::Has( self->member ) )
 #define PB_DEL( self, member ) ( PB_ASSERT_SLOT( self ), PB_UNSHARE( self ), pb::Del( ( *self )->member ) )
