@@ -11,6 +11,11 @@ bool sipsnDisplayNameOk( PbString *displayName )
     return sipsnQuotableStringOk( displayName );
 }
 
+PbString *sipsn::DisplayNameOf( const PbChar *chs, int64_t length )
+{
+    return chs[ length - 1 ] == '"' ? Unquote( chs, length ) : CollapseBlanks( chs, length );
+}
+
 PbString *sipsn___DisplayNameTryDecode( const PbChar *chs, int64_t length )
 {
     PB_ASSERT( length >= 0 );

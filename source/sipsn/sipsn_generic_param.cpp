@@ -132,7 +132,7 @@ static PbString *TakeValue( Cursor &in, int64_t *type )
     }
     *type       = SIPSN_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING;
     Span quoted = in.Take( sipsn___SkipQuotedString );
-    return quoted ? sipsn___QuotableStringTryDecode( quoted.chs, quoted.length ) : nullptr;
+    return quoted ? sipsn::Unquote( quoted.chs, quoted.length ) : nullptr;
 }
 
 SipsnGenericParam *sipsn::TakeGenericParam( Cursor &in )

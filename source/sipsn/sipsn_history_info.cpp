@@ -104,7 +104,7 @@ void                sipsnHistoryInfoSetGenericParams( SipsnHistoryInfo **hi, Sip
 static bool TryTakeAddress( Cursor &in, sipsn::NameAddr *address )
 {
     if( Span name = in.Take( sipsn___SkipDisplayName ) ) {
-        PbString *displayName = sipsn___DisplayNameTryDecode( name.chs, name.length );
+        PbString *displayName = sipsn::DisplayNameOf( name.chs, name.length );
         PB_ASSERT( displayName );
         address->displayName = pb::Ref{ displayName };
     }

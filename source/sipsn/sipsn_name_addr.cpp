@@ -27,7 +27,7 @@ bool TryTakeNameAddr( Cursor &in, NameAddr *address, Production *bare )
     Cursor     ahead = in;
     const Span name  = ahead.Take( sipsn___SkipDisplayName );
     if( name && Cursor{ ahead }.Take( sipsn___SkipLaquot ) ) {
-        PbString *displayName = sipsn___DisplayNameTryDecode( name.chs, name.length );
+        PbString *displayName = DisplayNameOf( name.chs, name.length );
         PB_ASSERT( displayName );
         address->displayName = pb::Ref{ displayName };
         in                   = ahead;

@@ -13,22 +13,25 @@ bool sipsnQuotableStringOk( PbString *quotableString )
     return std::ranges::none_of( sipsn::Characters( quotableString ), IsLineEnd );
 }
 
-PbString *sipsn___QuotableStringTryDecode( const PbChar *chs, int64_t length )
+PbString *sipsn::Unquote( const PbChar *chs, int64_t length )
 {
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-    if( !sipsn::Matches( chs, length, sipsn___SkipQuotedString ) ) return nullptr;
-
     const int64_t begin = sipsn___SkipSws( chs, length ) + 1;
     const int64_t count = length - 1 - begin;
-    if( pb::CountRun< false >( sipsn::charClasses, sipsn::QuoteStop, chs + begin, count ) == count )
+    if( pb::CountRun< false >( charClasses, QuoteStop, chs + begin, count ) == count )
         return pbStringCreateFromCharsCopy( chs + begin, count );
-    return sipsn::StringOf( [ = ]( auto put ) {
+    return StringOf( [ = ]( auto put ) {
         for( int64_t i = begin; i < length - 1; ++i ) {
             if( chs[ i ] == '\\' ) ++i;
             put( chs[ i ] );
         }
     } );
+}
+
+PbString *sipsn___QuotableStringTryDecode( const PbChar *chs, int64_t length )
+{
+    PB_ASSERT( length >= 0 );
+    PB_ASSERT( chs || length == 0 );
+    return sipsn::Matches( chs, length, sipsn___SkipQuotedString ) ? sipsn::Unquote( chs, length ) : nullptr;
 }
 
 PbString *sipsn___QuotableStringEncode( PbString *quotableString )

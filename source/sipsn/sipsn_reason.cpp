@@ -73,7 +73,7 @@ static bool TakeTypedParam( Cursor &in, SipsnReason *reason )
 {
     if( sipsn::TakeText( in, "cause", sipsn___SkipDigits, reason->cause ) ) return true;
     if( Span quoted = in.Param( "text", sipsn___SkipQuotedString ) ) {
-        pb::Set( reason->text, sipsn___QuotableStringTryDecode( quoted.chs, quoted.length ) );
+        pb::Set( reason->text, sipsn::Unquote( quoted.chs, quoted.length ) );
         PB_ABORT_UNLESS( nullptr, "(*reason)->text", reason->text );
         return true;
     }

@@ -61,3 +61,12 @@ PB_API void sipsn___SessUuidStartup( void );
 PB_API void sipsn___SessUuidShutdown( void );
 
 PB_END_DECLS
+
+namespace sipsn {
+
+// What sipsn___QuotableStringTryDecode and sipsn___DisplayNameTryDecode give for a text that sipsn___SkipQuotedString
+// or sipsn___SkipDisplayName has matched whole, without matching it again.
+PbString *Unquote( const PbChar *chs, int64_t length );
+PbString *DisplayNameOf( const PbChar *chs, int64_t length );
+
+} // namespace sipsn

@@ -80,7 +80,7 @@ SipsnWarningValue *sipsn___WarningValueTryDecode( const PbChar *chs, int64_t len
     Span text = in.Take( sipsn___SkipWarnText );
     if( !text ) return nullptr;
     return CreateOwning( sipsn___WarnCodeDecode( code.chs, code.length ), agent.ToString(),
-                         sipsn___QuotableStringTryDecode( text.chs, text.length ) );
+                         sipsn::Unquote( text.chs, text.length ) );
 }
 
 void sipsn::Write( TextWriter &out, SipsnWarningValue *wv )
