@@ -20,6 +20,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 OPERATIONS = ("decode", "encode", "full", "reply")
 RUNS = (10, 60)
+NOT_POSSIBLE = 3
 
 INSTRUCTIONS = (["--tool=callgrind", "--callgrind-out-file=/dev/null"], re.compile(r"Collected : (\d+)"))
 ALLOCATIONS = (["--tool=memcheck", "--leak-check=no", "--undef-value-errors=no"],
@@ -37,7 +38,7 @@ def count(program, tool, operation, message, runs):
     options, figure = tool
     result = subprocess.run(["valgrind", *options, program, operation, message, str(runs)],
                             stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-    if result.returncode == 1:
+    if result.returncode == NOT_POSSIBLE:
         raise NotPossible
     if result.returncode != 0:
         sys.exit(result.stderr)
