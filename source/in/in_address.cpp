@@ -16,7 +16,7 @@ struct InAddress
     uint64_t high;   // the bytes in network order as one number: its upper half, 0 for IPv4, and the lower one
     uint64_t low;
 
-    using Members = pb::Members< &InAddress::length, &InAddress::high, &InAddress::low >;
+    static constexpr auto Members() { return pb::Members{ &InAddress::length, &InAddress::high, &InAddress::low }; }
 };
 
 PB_DEFINE_TYPE( InAddress, inAddress, in___sort_IN_ADDRESS, "IN_ADDRESS", in___module, address, address,

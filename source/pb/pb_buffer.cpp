@@ -16,10 +16,8 @@ struct PbBuffer
     PbByte *Block() { return reinterpret_cast< PbByte * >( this + 1 ); }
     PbByte *Bytes() { return Block() + start; }
 
-    struct Members
+    struct Content
     {
-        template< class T > static consteval size_t Size() { return sizeof( T ); }
-
         static void    Free( PbBuffer    &) {}
         static int64_t Compare( PbBuffer &a, PbBuffer &b );
     };
@@ -115,7 +113,7 @@ void AppendRange( PbBuffer **slot, PbBuffer *source, int64_t index, int64_t coun
 
 template<> PbBuffer *pb::NewFrom( PbBuffer *source ) { return Copy( source, 0, source->length, source->length ); }
 
-int64_t PbBuffer::Members::Compare( PbBuffer &a, PbBuffer &b )
+int64_t PbBuffer::Content::Compare( PbBuffer &a, PbBuffer &b )
 {
     const int order = std::memcmp( a.Bytes(), b.Bytes(), size_t( std::min( a.length, b.length ) ) );
     return order != 0 ? order : pb::Kind< int64_t >::Compare( a.length, b.length );

@@ -17,10 +17,8 @@ struct PbDict
     pb::DictEntry *Array() { return reinterpret_cast< pb::DictEntry * >( this + 1 ); }
     pb::DictEntry *At( int64_t index ) { return tree ? pb::TreeEntryAt( tree, index ) : Array() + index; }
 
-    struct Members
+    struct Content
     {
-        template< class T > static consteval size_t Size() { return sizeof( T ); }
-
         static void    Free( PbDict &dict );
         static int64_t Compare( PbDict &a, PbDict &b );
     };
@@ -177,7 +175,7 @@ template<> PbDict *pb::NewFrom( PbDict *source )
     return copy;
 }
 
-void PbDict::Members::Free( PbDict &dict )
+void PbDict::Content::Free( PbDict &dict )
 {
     if( dict.tree )
         pb::FreeTree( std::exchange( dict.tree, nullptr ) );
@@ -186,7 +184,7 @@ void PbDict::Members::Free( PbDict &dict )
     dict.length = 0;
 }
 
-int64_t PbDict::Members::Compare( PbDict &a, PbDict &b )
+int64_t PbDict::Content::Compare( PbDict &a, PbDict &b )
 {
     const int64_t common = std::min( a.length, b.length );
     for( int64_t i = 0; i < common; ++i ) {
@@ -341,5 +339,5 @@ void pbDictClear( PbDict **dict )
     if( pb::IsShared( *dict ) )
         pb::Release( std::exchange( *dict, pbDictCreate() ) );
     else
-        PbDict::Members::Free( **dict );
+        PbDict::Content::Free( **dict );
 }

@@ -6,19 +6,23 @@
 //         PbObj     obj;
 //         PbString *cause;
 //         ...
-//         using Members = pb::Members< &SipsnReason::cause, ... >;
+//         static constexpr auto Members() { return pb::Members{ &SipsnReason::cause, ... }; }
 //     };
 //     PB_DEFINE_TYPE( ... )                                 // 2. the standard functions and the hooks
 //     PbString *sipsnReasonCause( SipsnReason *reason ) { return PB_GET( reason, cause ); }   // 3. accessors
 #pragma once
 
-#include "pb.h"
+#include "pb_mem.h"
+#include "pb_module.h"
+#include "pb_obj.h"
+#include "pb_string.h"
 
 #include <atomic>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -63,7 +67,7 @@ struct PbString
     int64_t              capacity;
     __extension__ PbChar chs[];
 
-    struct Members; // pb_string.cpp
+    struct Content; // pb_string.cpp
 };
 
 // ---- Assertions ------------------------------------------------------------------------------------
@@ -191,6 +195,8 @@ template< std::integral N > struct Kind< N > // a number, -1 when absent; or a f
     static int64_t Compare( N a, N b ) { return ( a > b ) - ( a < b ); }
 };
 
+template< class M > using KindOf = Kind< std::remove_cvref_t< M > >;
+
 template< class M > M    Share( M member ) { return Kind< M >::Share( member ); }
 template< class M > bool Has( M member ) { return member != Kind< M >::absent; }
 template< class M > void Set( M &member, std::type_identity_t< M > owned )
@@ -199,38 +205,103 @@ template< class M > void Set( M &member, std::type_identity_t< M > owned )
 }
 template< class M > void Del( M &member ) { Set( member, Kind< M >::absent ); }
 
-// The member table of a type, in declaration order. A type whose members are compared in another order, or not all of
-// them, also has a table `CompareOrder`; one that is compared by address has `using CompareOrder = pb::ByAddress`.
-template< auto... members > struct Members
-{
-    template< class T, auto member >
-    using KindOf = Kind< std::remove_cvref_t< decltype( std::declval< T >().*member ) > >;
+// ---- Tables of members -----------------------------------------------------------------------------
 
-    template< class T > static void Init( T &object ) { ( ( object.*members = KindOf< T, members >::absent ), ... ); }
-    template< class T > static void Share( T &copy, T &source )
+// A row of a table is a pointer to the member, or something that knows more about it: it has the pointer as `member`,
+// and `compared` where objects may differ in the member and still be equal.
+template< class T, class M > constexpr auto MemberOf( M T::*row ) { return row; }
+template< class Row > constexpr auto        MemberOf( const Row &row ) { return row.member; }
+
+template< class Row > constexpr bool IsCompared( const Row &row )
+{
+    if constexpr( requires { row.compared; } )
+        return row.compared;
+    else
+        return true;
+}
+
+// The table of a type's members, in the order in which they compare. A type that is not compared by its members has a
+// `CompareOrder` of its own; one that is compared by address has `using CompareOrder = pb::ByAddress`.
+template< class... Rows > struct Members
+{
+    std::tuple< Rows... > rows;
+
+    constexpr explicit Members( Rows... all ) : rows{ all... } {}
+
+    static constexpr size_t count = sizeof...( Rows );
+
+    // Calls `visit( row )` with each row in turn, as long as it returns true; whether it always did.
+    template< class Visit > [[gnu::always_inline]] constexpr bool All( Visit visit ) const
     {
-        ( ( copy.*members = pb::Share( source.*members ) ), ... );
+        return std::apply(
+            [ & ]( const Rows &...row ) __attribute__( ( always_inline ) ) { return ( visit( row ) && ... ); }, rows );
     }
-    template< class T > static void    Free( T &object ) { ( KindOf< T, members >::Free( object.*members ), ... ); }
-    template< class T > static int64_t Compare( T &a, T &b )
+
+    template< class T > [[gnu::always_inline]] void Init( T &object ) const
+    {
+        All( [ & ]( const auto &row ) __attribute__( ( always_inline ) ) {
+            auto &member = object.*MemberOf( row );
+            member       = KindOf< decltype( member ) >::absent;
+            return true;
+        } );
+    }
+    template< class T > void Share( T &copy, T &source ) const
+    {
+        All( [ & ]( const auto &row ) { return copy.*MemberOf( row ) = pb::Share( source.*MemberOf( row ) ), true; } );
+    }
+    template< class T > [[gnu::always_inline]] void Free( T &object ) const
+    {
+        All( [ & ]( const auto &row ) __attribute__( ( always_inline ) ) {
+            auto &member = object.*MemberOf( row );
+            KindOf< decltype( member ) >::Free( member );
+            return true;
+        } );
+    }
+    template< class T > int64_t Compare( T &a, T &b ) const
     {
         int64_t order = 0;
-        (void)( ( ( order = KindOf< T, members >::Compare( a.*members, b.*members ) ) != 0 ) || ... );
+        All( [ & ]( const auto &row ) {
+            if( IsCompared( row ) )
+                order = KindOf< decltype( a.*MemberOf( row ) ) >::Compare( a.*MemberOf( row ), b.*MemberOf( row ) );
+            return order == 0;
+        } );
         return order;
     }
-
-    // The size of a struct of exactly these members, to prove that the table leaves none out.
-    template< class T > static consteval size_t Size()
-    {
-        size_t     size    = sizeof( PbObj );
-        const auto roundUp = [ & ]( size_t to ) { size = ( size + to - 1 ) / to * to; };
-        ( ( roundUp( alignof( decltype( std::declval< T >().*members ) ) ),
-            size += sizeof( std::declval< T >().*members ) ),
-          ... );
-        roundUp( alignof( T ) );
-        return size;
-    }
 };
+
+template< class T > inline constexpr auto membersOf = T::Members();
+
+// A type whose objects end in an array has no table: it frees and compares its `Content`.
+template< class T > concept HasContent = requires { typename T::Content; };
+
+// How many fields a struct has, to prove that its table leaves none out. (Sizes would not show it: a flag behind a flag
+// hides in the padding.)
+struct AnyField
+{
+    template< class M > operator M() const;
+};
+template< class T, size_t... n > consteval bool TakesFields( std::index_sequence< n... > )
+{
+    return requires { T{ ( static_cast< void >( n ), AnyField{} )... }; };
+}
+template< class T, size_t n = 1 > consteval size_t FieldCount()
+{
+    if constexpr( TakesFields< T >( std::make_index_sequence< n + 1 >{} ) )
+        return FieldCount< T, n + 1 >();
+    else
+        return n;
+}
+
+template< class T > consteval bool IsTableWhole()
+{
+    if constexpr( HasContent< T > )
+        return true;
+    else if constexpr( requires { typename T::Fields; } ) // inherited from there
+        return sizeof( T ) == sizeof( typename T::Fields ) &&
+               FieldCount< typename T::Fields >() == 1 + membersOf< T >.count;
+    else
+        return FieldCount< T >() == 1 + membersOf< T >.count; // the object header is not a member
+}
 
 struct ByAddress
 {
@@ -247,14 +318,14 @@ inline constexpr SortNameAsText sortNameAsText{};
 template< class T > T *New()
 {
     T *object = reinterpret_cast< T * >( pb___ObjCreate( sizeof( T ), sortOf< T > ) );
-    T::Members::Init( *object );
+    membersOf< T >.Init( *object );
     return object;
 }
 
 template< class T > T *NewFrom( T *source )
 {
     T *copy = reinterpret_cast< T * >( pb___ObjCreate( sizeof( T ), sortOf< T > ) );
-    T::Members::Share( *copy, *source );
+    membersOf< T >.Share( *copy, *source );
     return copy;
 }
 
@@ -263,14 +334,24 @@ template<> inline PbString *NewFrom( PbString *source )
     return pbStringCreateFromCharsCopy( source->chs, source->length );
 }
 
+template< class T > void FreeMembers( T &object )
+{
+    if constexpr( HasContent< T > )
+        T::Content::Free( object );
+    else
+        membersOf< T >.Free( object );
+}
+
 template< class T > int64_t CompareObjects( T &a, T &b )
 {
     if constexpr( ComparesByAddress< T > )
         return 0; // no hook is registered
     else if constexpr( requires { typename T::CompareOrder; } )
         return T::CompareOrder::Compare( a, b );
+    else if constexpr( HasContent< T > )
+        return T::Content::Compare( a, b );
     else
-        return T::Members::Compare( a, b );
+        return membersOf< T >.Compare( a, b );
 }
 
 template< class T > bool EqualObjects( T *a, T *b ) { return pbObjCompare( AsObj( a ), AsObj( b ) ) == 0; }
@@ -318,7 +399,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
 // The same for what PB_DECLARE_OBJECT declares.
 #define PB_DEFINE_OBJECT( Type, prefix, sort_, sortName, module_, self, pair, toText )                                 \
     static_assert( offsetof( Type, obj ) == 0, "the object header comes first" );                                      \
-    static_assert( Type::Members::Size< Type >() == sizeof( Type ), #Type ": a member is not in Members" );            \
+    static_assert( pb::IsTableWhole< Type >(), #Type ": a member is not in Members" );                                 \
                                                                                                                        \
     extern "C" PB_API PbSort sort_;                                                                                    \
                                                                                                                        \
@@ -328,7 +409,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
     {                                                                                                                  \
         Type *self = prefix##From( obj );                                                                              \
         PB_ABORT_UNLESS( nullptr, #self, self );                                                                       \
-        Type::Members::Free( *self );                                                                                  \
+        pb::FreeMembers( *self );                                                                                      \
     }                                                                                                                  \
     [[maybe_unused]] static int64_t CompareHook( PbObj *objA, PbObj *objB )                                            \
     {                                                                                                                  \

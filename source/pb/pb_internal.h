@@ -2,7 +2,10 @@
 // copying them, and borrow instead of retaining. Exported, but no part of the public interface; never installed.
 #pragma once
 
+#include "pb_buffer.h"
+#include "pb_dict.h"
 #include "pb_frame.h"
+#include "pb_vector.h"
 
 PB_BEGIN_DECLS
 

@@ -8,7 +8,7 @@ struct PbStore
     PbObj   obj;
     PbDict *entries;
 
-    using Members = pb::Members< &PbStore::entries >;
+    static constexpr auto Members() { return pb::Members{ &PbStore::entries }; }
 };
 
 static PbString *MakeText( PbStore *store ) { return pbDictToString( store->entries ); }

@@ -2,6 +2,7 @@
 #include "pb_string.h"
 
 #include "pb_block.h"
+#include "pb_format.h"
 #include "pb_internal.h"
 #include "pb_utf8.h"
 
@@ -12,10 +13,8 @@
 #include <cstring>
 #include <iterator>
 
-struct PbString::Members
+struct PbString::Content
 {
-    template< class T > static consteval size_t Size() { return sizeof( PbString ); }
-
     static void    Free( PbString    &) {}
     static int64_t Compare( PbString &a, PbString &b )
     {

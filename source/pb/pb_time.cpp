@@ -15,8 +15,11 @@ struct PbTime
     int64_t minute;
     int64_t second;
 
-    using Members =
-        pb::Members< &PbTime::year, &PbTime::month, &PbTime::day, &PbTime::hour, &PbTime::minute, &PbTime::second >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &PbTime::year, &PbTime::month,  &PbTime::day,
+                            &PbTime::hour, &PbTime::minute, &PbTime::second };
+    }
 };
 
 static PbString *MakeText( PbTime *time );

@@ -14,10 +14,8 @@ struct PbVector
 
     PbObj **Items() { return reinterpret_cast< PbObj ** >( this + 1 ); }
 
-    struct Members
+    struct Content
     {
-        template< class T > static consteval size_t Size() { return sizeof( T ); }
-
         static void    Free( PbVector &vector );
         static int64_t Compare( PbVector &a, PbVector &b );
     };
@@ -84,12 +82,12 @@ void InsertOwned( PbVector **slot, int64_t index, PbObj *owned )
 
 template<> PbVector *pb::NewFrom( PbVector *source ) { return Copy( source, source->length ); }
 
-void PbVector::Members::Free( PbVector &vector )
+void PbVector::Content::Free( PbVector &vector )
 {
     for( int64_t i = 0; i < vector.length; ++i ) pb::ReleaseAndPoison( vector.Items()[ i ] );
 }
 
-int64_t PbVector::Members::Compare( PbVector &a, PbVector &b )
+int64_t PbVector::Content::Compare( PbVector &a, PbVector &b )
 {
     const int64_t common = std::min( a.length, b.length );
     for( int64_t i = 0; i < common; ++i ) {
@@ -235,6 +233,6 @@ void pbVectorClear( PbVector **vector )
         pb::Release( std::exchange( *vector, pbVectorCreate() ) );
         return;
     }
-    PbVector::Members::Free( **vector );
+    PbVector::Content::Free( **vector );
     ( *vector )->length = 0;
 }

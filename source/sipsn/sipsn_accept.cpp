@@ -3,13 +3,25 @@
 
 #include "sipsn_media_subtype.h"
 #include "sipsn_media_type.h"
-#include "sipsn_qvalue.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+using sipsn::BasicCursor, sipsn::Span, sipsn::TextWriter;
+
+namespace sipsn::rule {
+
+static constexpr TextRule mediaType{ .words      = "a media type",
+                                     .ok         = sipsnMediaTypeOk,
+                                     .production = sipsn___SkipMediaType,
+                                     .decoded    = LowerFromChars,
+                                     .normal     = ToLower };
+static constexpr TextRule mediaSubtype{ .words      = "a media subtype",
+                                        .ok         = sipsnMediaSubtypeOk,
+                                        .production = sipsn___SkipMediaSubtype,
+                                        .decoded    = LowerFromChars,
+                                        .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnAccept
 {
@@ -19,20 +31,20 @@ struct SipsnAccept
     SipsnGenericParams *genericParams;
     int64_t             q;
 
-    using Members      = pb::Members< &SipsnAccept::mediaType, &SipsnAccept::mediaSubtype, &SipsnAccept::genericParams,
-                                 &SipsnAccept::q >;
-    using CompareOrder = pb::Members< &SipsnAccept::mediaType, &SipsnAccept::mediaSubtype, &SipsnAccept::q,
-                                      &SipsnAccept::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::OptionalText( "mediaType", &SipsnAccept::mediaType, sipsn::rule::mediaType ),
+            sipsn::OptionalText( "mediaSubtype", &SipsnAccept::mediaSubtype, sipsn::rule::mediaSubtype ),
+            sipsn::IntParam( "q", &SipsnAccept::q, sipsn::rule::qvalue ),
+            sipsn::OtherParams( &SipsnAccept::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnAccept, sipsnAccept, SIPSN_ACCEPT, accept, accept, sipsn___AcceptEncode )
 
-SipsnAccept *sipsnAcceptCreate( void )
-{
-    SipsnAccept *accept   = pb::New< SipsnAccept >();
-    accept->genericParams = sipsnGenericParamsCreate();
-    return accept;
-}
+SipsnAccept *sipsnAcceptCreate( void ) { return sipsn::New< SipsnAccept >(); }
 
 // ---- Accessors -------------------------------------------------------------------------------------
 
@@ -69,57 +81,45 @@ void    sipsnAcceptSetQvalue( SipsnAccept **accept, int64_t qvalue )
 // ---- Text form -------------------------------------------------------------------------------------
 
 // A name in lower case, or "*", which leaves it null. False when neither is there.
-static bool TryTakeName( Cursor &in, sipsn::Production *production, PbString *&name )
+template< class Link > static bool TryTakeName( BasicCursor< Link > &in, const sipsn::TextRule &rule, PbString *&name )
 {
-    if( Span text = in.Take( production ) ) {
-        name = sipsn::LowerFromChars( text.chs, text.length );
-        return true;
+    name = TryTake( in, rule );
+    return name || in.Take( PbChar{ '*' } );
+}
+
+static void WriteName( TextWriter &out, PbString *name )
+{
+    if( name )
+        out.Text( name );
+    else
+        out.Char( '*' );
+}
+
+namespace {
+
+struct Form
+{
+    template< class Link > SipsnAccept *TryDecode( BasicCursor< Link > &in ) const
+    {
+        pb::Ref accept{ sipsnAcceptCreate() };
+        if( !TryTakeName( in, sipsn::rule::mediaType, accept->mediaType ) || !in.Take( sipsn___SkipSlash ) ||
+            !TryTakeName( in, sipsn::rule::mediaSubtype, accept->mediaSubtype ) )
+            return nullptr;
+        if( accept->mediaSubtype && !accept->mediaType && !in.Lacks( "\"*\" behind \"*/\"" ) ) return nullptr;
+        return TryDecodeParams( in, *accept.Get() ) ? accept.Detach() : nullptr;
     }
-    return bool( in.Take( PbChar{ '*' } ) );
-}
 
-static bool TakeTypedParam( Cursor &in, SipsnAccept *accept )
-{
-    Span text = in.Param( "q", sipsn___SkipQvalue );
-    if( !text ) return false;
-    accept->q = sipsn___QvalueTryDecode( text.chs, text.length );
-    PB_ASSERT( sipsnQvalueOk( accept->q ) );
-    return true;
-}
+    void Write( TextWriter &out, SipsnAccept &accept ) const
+    {
+        WriteName( out, accept.mediaType );
+        out.Char( '/' );
+        WriteName( out, accept.mediaType ? accept.mediaSubtype : nullptr );
+        WriteParams( out, accept );
+    }
+};
 
-SipsnAccept *sipsn___AcceptTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+constexpr Form form{};
 
-    Cursor  in{ chs, length };
-    pb::Ref accept{ sipsnAcceptCreate() };
-    if( !TryTakeName( in, sipsn___SkipMediaType, accept->mediaType ) || !in.Take( sipsn___SkipSlash ) ||
-        !TryTakeName( in, sipsn___SkipMediaSubtype, accept->mediaSubtype ) )
-        return nullptr;
-    if( accept->mediaSubtype && !accept->mediaType ) return nullptr;
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, accept.Get() ); };
-    return sipsn::TryDecodeParams( in, &accept->genericParams, takeTyped ) ? accept.Detach() : nullptr;
-}
+} // namespace
 
-void sipsn::Write( TextWriter &out, SipsnAccept *accept )
-{
-    if( accept->mediaType )
-        out.Text( accept->mediaType );
-    else
-        out.Char( '*' );
-    out.Char( '/' );
-    if( accept->mediaType && accept->mediaSubtype )
-        out.Text( accept->mediaSubtype );
-    else
-        out.Char( '*' );
-    ParamWriter params{ out, accept->genericParams };
-    if( pb::Has( accept->q ) ) params.Owned( "q", sipsn___QvalueEncode( accept->q ) );
-    params.Generic();
-}
-
-PbString *sipsn___AcceptEncode( SipsnAccept *accept )
-{
-    PB_ASSERT( accept );
-    return sipsn::Encode( accept );
-}
+SIPSN_DEFINE_TEXT( Accept, accept, form )

@@ -1,14 +1,8 @@
 // SipsnAcceptEncoding: one element of Accept-Encoding, RFC 3261 section 20.2.
 #include "sipsn_accept_encoding.h"
 
-#include "sipsn_content_coding.h"
-#include "sipsn_qvalue.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
-
-using sipsn::Cursor, sipsn::Span;
 
 struct SipsnAcceptEncoding
 {
@@ -17,29 +11,24 @@ struct SipsnAcceptEncoding
     SipsnGenericParams *genericParams;
     int64_t             q;
 
-    using Members      = pb::Members< &SipsnAcceptEncoding::contentCoding, &SipsnAcceptEncoding::genericParams,
-                                 &SipsnAcceptEncoding::q >;
-    using CompareOrder = pb::Members< &SipsnAcceptEncoding::contentCoding, &SipsnAcceptEncoding::q,
-                                      &SipsnAcceptEncoding::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::OptionalText( "contentCoding", &SipsnAcceptEncoding::contentCoding, sipsn::rule::contentCoding ),
+            sipsn::IntParam( "q", &SipsnAcceptEncoding::q, sipsn::rule::qvalue ),
+            sipsn::OtherParams( &SipsnAcceptEncoding::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnAcceptEncoding, sipsnAcceptEncoding, SIPSN_ACCEPT_ENCODING, acceptEncoding, ae,
                    sipsn___AcceptEncodingEncode )
 
-// Takes over the reference, which may be null.
-static SipsnAcceptEncoding *CreateOwning( PbString *contentCoding )
-{
-    SipsnAcceptEncoding *acceptEncoding = pb::New< SipsnAcceptEncoding >();
-    acceptEncoding->contentCoding       = contentCoding;
-    acceptEncoding->genericParams       = sipsnGenericParamsCreate();
-    return acceptEncoding;
-}
-
-SipsnAcceptEncoding *sipsnAcceptEncodingCreate( void ) { return CreateOwning( nullptr ); }
+SipsnAcceptEncoding *sipsnAcceptEncodingCreate( void ) { return sipsn::New< SipsnAcceptEncoding >(); }
 
 SipsnAcceptEncoding *sipsnAcceptEncodingCreateWithContentCoding( PbString *contentCoding )
 {
-    return CreateOwning( sipsnContentCodingNormalize( contentCoding ) );
+    return sipsn::NewWith( &SipsnAcceptEncoding::contentCoding, sipsnContentCodingNormalize( contentCoding ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -84,42 +73,23 @@ void    sipsnAcceptEncodingSetQvalue( SipsnAcceptEncoding **acceptEncoding, int6
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-static bool TakeTypedParam( Cursor &in, SipsnAcceptEncoding *acceptEncoding )
+namespace {
+
+// "*" is a content coding as well; an absent one is written so.
+struct Form : sipsn::Params< SipsnAcceptEncoding >
 {
-    Span text = in.Param( "q", sipsn___SkipQvalue );
-    if( !text ) return false;
-    acceptEncoding->q = sipsn___QvalueTryDecode( text.chs, text.length );
-    PB_ASSERT( sipsnQvalueOk( acceptEncoding->q ) );
-    return true;
-}
+    void Write( sipsn::TextWriter &out, SipsnAcceptEncoding &acceptEncoding ) const
+    {
+        if( acceptEncoding.contentCoding )
+            out.Text( acceptEncoding.contentCoding );
+        else
+            out.Char( '*' );
+        WriteParams( out, acceptEncoding );
+    }
+};
 
-SipsnAcceptEncoding *sipsn___AcceptEncodingTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+constexpr Form form{};
 
-    Cursor in{ chs, length };
-    Span   contentCoding = in.Take( sipsn___SkipContentCoding ); // "*" is one as well
-    if( !contentCoding ) return nullptr;
+} // namespace
 
-    pb::Ref    acceptEncoding{ CreateOwning( sipsn::LowerFromChars( contentCoding.chs, contentCoding.length ) ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, acceptEncoding.Get() ); };
-    return sipsn::TryDecodeParams( in, &acceptEncoding->genericParams, takeTyped ) ? acceptEncoding.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnAcceptEncoding *acceptEncoding )
-{
-    if( acceptEncoding->contentCoding )
-        out.Text( acceptEncoding->contentCoding );
-    else
-        out.Char( '*' );
-    ParamWriter params{ out, acceptEncoding->genericParams };
-    if( pb::Has( acceptEncoding->q ) ) params.Owned( "q", sipsn___QvalueEncode( acceptEncoding->q ) );
-    params.Generic();
-}
-
-PbString *sipsn___AcceptEncodingEncode( SipsnAcceptEncoding *acceptEncoding )
-{
-    PB_ASSERT( acceptEncoding );
-    return sipsn::Encode( acceptEncoding );
-}
+SIPSN_DEFINE_TEXT( AcceptEncoding, acceptEncoding, form )

@@ -1,11 +1,8 @@
 // SipsnAlertInfo: one alert-param of Alert-Info, RFC 3261 section 20.4.
 #include "sipsn_alert_info.h"
 
-#include "sipsn_iri.h"
-#include "sipsn_skip_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
-
-using sipsn::Cursor;
 
 struct SipsnAlertInfo
 {
@@ -13,24 +10,21 @@ struct SipsnAlertInfo
     PbString           *iri;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnAlertInfo::iri, &SipsnAlertInfo::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnAlertInfo::iri, sipsn::rule::iri ),
+            sipsn::OtherParams( &SipsnAlertInfo::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnAlertInfo, sipsnAlertInfo, SIPSN_ALERT_INFO, alertInfo, ai, sipsn___AlertInfoEncode )
 
-// Takes over the reference.
-static SipsnAlertInfo *CreateOwning( PbString *iri )
-{
-    SipsnAlertInfo *alertInfo = pb::New< SipsnAlertInfo >();
-    alertInfo->iri            = iri;
-    alertInfo->genericParams  = sipsnGenericParamsCreate();
-    return alertInfo;
-}
-
 SipsnAlertInfo *sipsnAlertInfoCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnAlertInfo::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -53,28 +47,6 @@ void sipsnAlertInfoSetGenericParams( SipsnAlertInfo **alertInfo, SipsnGenericPar
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-SipsnAlertInfo *sipsn___AlertInfoTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+static constexpr sipsn::Address< SipsnAlertInfo > form{};
 
-    Cursor    in{ chs, length };
-    PbString *iri = sipsn::TryTakeBracketedIri( in );
-    if( !iri ) return nullptr;
-
-    pb::Ref    alertInfo{ CreateOwning( iri ) };
-    const auto noTyped = []( Cursor & ) { return false; };
-    return sipsn::TryDecodeParams( in, &alertInfo->genericParams, noTyped ) ? alertInfo.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnAlertInfo *alertInfo )
-{
-    WriteNameAddr( out, nullptr, alertInfo->iri );
-    ParamWriter{ out, alertInfo->genericParams }.Generic();
-}
-
-PbString *sipsn___AlertInfoEncode( SipsnAlertInfo *alertInfo )
-{
-    PB_ASSERT( alertInfo );
-    return sipsn::Encode( alertInfo );
-}
+SIPSN_DEFINE_TEXT( AlertInfo, alertInfo, form )

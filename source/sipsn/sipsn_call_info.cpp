@@ -1,13 +1,19 @@
 // SipsnCallInfo: one info of Call-Info, RFC 3261 section 20.9.
 #include "sipsn_call_info.h"
 
-#include "sipsn_iri.h"
 #include "sipsn_purpose.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor;
+namespace sipsn::rule {
+
+static constexpr TextRule purpose{ .words      = "a purpose",
+                                   .ok         = sipsnPurposeOk,
+                                   .production = sipsn___SkipPurpose,
+                                   .decoded    = LowerFromChars,
+                                   .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnCallInfo
 {
@@ -16,24 +22,22 @@ struct SipsnCallInfo
     PbString           *purpose;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnCallInfo::iri, &SipsnCallInfo::purpose, &SipsnCallInfo::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnCallInfo::iri, sipsn::rule::iri ),
+            sipsn::TextParam( "purpose", &SipsnCallInfo::purpose, sipsn::rule::purpose ),
+            sipsn::OtherParams( &SipsnCallInfo::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnCallInfo, sipsnCallInfo, SIPSN_CALL_INFO, callInfo, ci, sipsn___CallInfoEncode )
 
-// Takes over the reference.
-static SipsnCallInfo *CreateOwning( PbString *iri )
-{
-    SipsnCallInfo *callInfo = pb::New< SipsnCallInfo >();
-    callInfo->iri           = iri;
-    callInfo->genericParams = sipsnGenericParamsCreate();
-    return callInfo;
-}
-
 SipsnCallInfo *sipsnCallInfoCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnCallInfo::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -60,35 +64,6 @@ void                sipsnCallInfoSetGenericParams( SipsnCallInfo **callInfo, Sip
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-static bool TakeTypedParam( Cursor &in, SipsnCallInfo *callInfo )
-{
-    return sipsn::TakeText( in, "purpose", sipsn___SkipPurpose, callInfo->purpose, sipsn::LowerFromChars );
-}
+static constexpr sipsn::Address< SipsnCallInfo > form{};
 
-SipsnCallInfo *sipsn___CallInfoTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    Cursor    in{ chs, length };
-    PbString *iri = sipsn::TryTakeBracketedIri( in );
-    if( !iri ) return nullptr;
-
-    pb::Ref    callInfo{ CreateOwning( iri ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, callInfo.Get() ); };
-    return sipsn::TryDecodeParams( in, &callInfo->genericParams, takeTyped ) ? callInfo.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnCallInfo *callInfo )
-{
-    WriteNameAddr( out, nullptr, callInfo->iri );
-    ParamWriter params{ out, callInfo->genericParams };
-    params.Text( "purpose", callInfo->purpose );
-    params.Generic();
-}
-
-PbString *sipsn___CallInfoEncode( SipsnCallInfo *callInfo )
-{
-    PB_ASSERT( callInfo );
-    return sipsn::Encode( callInfo );
-}
+SIPSN_DEFINE_TEXT( CallInfo, callInfo, form )

@@ -1,17 +1,16 @@
 // SipsnContact: one contact-param, RFC 3261 section 20.10.
 #include "sipsn_contact.h"
 
-#include "sipsn_delta_seconds.h"
-#include "sipsn_display_name.h"
-#include "sipsn_history_info_index.h"
-#include "sipsn_iri.h"
-#include "sipsn_qvalue.h"
+#include "sipsn_rules.h"
 #include "sipsn_sip_instance.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_internal.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+namespace sipsn::rule {
+
+static constexpr TextRule sipInstance{
+    .words = "an instance", .ok = sipsnSipInstanceOk, .production = sipsn___SkipSipInstance };
+
+} // namespace sipsn::rule
 
 struct SipsnContact
 {
@@ -28,32 +27,31 @@ struct SipsnContact
     bool                sipSrc;
     bool                sipSrs;
 
-    using Members =
-        pb::Members< &SipsnContact::iri, &SipsnContact::displayName, &SipsnContact::genericParams,
-                     &SipsnContact::qvalue, &SipsnContact::expires, &SipsnContact::rc, &SipsnContact::mp,
-                     &SipsnContact::np, &SipsnContact::sipInstance, &SipsnContact::sipSrc, &SipsnContact::sipSrs >;
-    // Without the flags: what a contact can do does not make it another contact.
-    using CompareOrder = pb::Members< &SipsnContact::iri, &SipsnContact::displayName, &SipsnContact::qvalue,
-                                      &SipsnContact::expires, &SipsnContact::rc, &SipsnContact::mp, &SipsnContact::np,
-                                      &SipsnContact::sipInstance, &SipsnContact::genericParams >;
+    // Contacts compare without the flags: what one can do does not make it another contact.
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnContact::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnContact::displayName, sipsn::rule::displayName ),
+            sipsn::IntParam( "q", &SipsnContact::qvalue, sipsn::rule::qvalue ),
+            sipsn::IntParam( "expires", &SipsnContact::expires, sipsn::rule::deltaSeconds ),
+            sipsn::TextParam( "rc", &SipsnContact::rc, sipsn::rule::historyInfoIndex ),
+            sipsn::TextParam( "mp", &SipsnContact::mp, sipsn::rule::historyInfoIndex ),
+            sipsn::TextParam( "np", &SipsnContact::np, sipsn::rule::historyInfoIndex ),
+            sipsn::QuotedParam( "+sip.instance", &SipsnContact::sipInstance, sipsn::rule::sipInstance, "sipInstance" ),
+            sipsn::FlagParam( "+sip.src", &SipsnContact::sipSrc, "sipSrc" ).Lenient().NotCompared(),
+            sipsn::FlagParam( "+sip.srs", &SipsnContact::sipSrs, "sipSrs" ).Lenient().NotCompared(),
+            sipsn::OtherParams( &SipsnContact::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnContact, sipsnContact, SIPSN_CONTACT, contact, con, sipsn___ContactEncode )
 
-// Takes over the references.
-static SipsnContact *CreateOwning( PbString *iri, PbString *displayName )
-{
-    SipsnContact *contact  = pb::New< SipsnContact >();
-    contact->iri           = iri;
-    contact->displayName   = displayName;
-    contact->genericParams = sipsnGenericParamsCreate();
-    return contact;
-}
-
 SipsnContact *sipsnContactCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ), nullptr );
+    return sipsn::NewWith( &SipsnContact::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -134,66 +132,6 @@ void sipsnContactSetSipSrs( SipsnContact **contact, bool sipSrs ) { PB_PUT( cont
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-static bool TakeQvalue( Cursor &in, SipsnContact *contact )
-{
-    const Span text = in.Param( "q", sipsn___SkipQvalue );
-    if( !text ) return false;
-    const int64_t qvalue = sipsn___QvalueTryDecode( text.chs, text.length );
-    PB_ASSERT( sipsnQvalueOk( qvalue ) );
-    contact->qvalue = qvalue;
-    return true;
-}
+static constexpr sipsn::Address< SipsnContact > form{};
 
-// The flag's name alone: what follows it ("=1", more letters) is left to fail.
-template< size_t N > static bool TakeName( Cursor &in, const char ( &name )[ N ], bool &flag )
-{
-    if( !in.Keyword( name ) ) return false;
-    flag = true;
-    return true;
-}
-
-static bool TakeTypedParam( Cursor &in, SipsnContact *contact )
-{
-    return TakeQvalue( in, contact ) ||
-           sipsn::TakeInt( in, "expires", sipsn___SkipDeltaSeconds, contact->expires, sipsn___DeltaSecondsTryDecode ) ||
-           sipsn::TakeText( in, "rc", sipsn___SkipHistoryInfoIndex, contact->rc ) ||
-           sipsn::TakeText( in, "mp", sipsn___SkipHistoryInfoIndex, contact->mp ) ||
-           sipsn::TakeText( in, "np", sipsn___SkipHistoryInfoIndex, contact->np ) ||
-           sipsn::TakeQuoted( in, "+sip.instance", sipsn___SkipSipInstance, contact->sipInstance ) ||
-           TakeName( in, "+sip.src", contact->sipSrc ) || TakeName( in, "+sip.srs", contact->sipSrs );
-}
-
-SipsnContact *sipsn___ContactTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    Cursor          in{ chs, length };
-    sipsn::NameAddr address;
-    if( !sipsn::TryTakeNameAddr( in, &address ) ) return nullptr;
-
-    pb::Ref    contact{ CreateOwning( address.iri.Detach(), address.displayName.Detach() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, contact.Get() ); };
-    return sipsn::TryDecodeParams( in, &contact->genericParams, takeTyped ) ? contact.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnContact *contact )
-{
-    WriteNameAddr( out, contact->displayName, contact->iri );
-    ParamWriter params{ out, contact->genericParams };
-    if( pb::Has( contact->qvalue ) ) params.Owned( "q", sipsn___QvalueEncode( contact->qvalue ) );
-    params.Int( "expires", contact->expires );
-    params.Text( "rc", contact->rc );
-    params.Text( "mp", contact->mp );
-    params.Text( "np", contact->np );
-    params.Quoted( "+sip.instance", contact->sipInstance );
-    params.Flag( "+sip.src", contact->sipSrc );
-    params.Flag( "+sip.srs", contact->sipSrs );
-    params.Generic();
-}
-
-PbString *sipsn___ContactEncode( SipsnContact *contact )
-{
-    PB_ASSERT( contact );
-    return sipsn::Encode( contact );
-}
+SIPSN_DEFINE_TEXT( Contact, contact, form )

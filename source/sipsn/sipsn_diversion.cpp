@@ -1,18 +1,59 @@
 // SipsnDiversion: one value of a Diversion header field, RFC 5806 section 3.
 #include "sipsn_diversion.h"
 
-#include "sipsn_display_name.h"
 #include "sipsn_diversion_counter.h"
 #include "sipsn_diversion_limit.h"
 #include "sipsn_diversion_privacy.h"
 #include "sipsn_diversion_reason.h"
 #include "sipsn_diversion_screen.h"
-#include "sipsn_iri.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor;
+namespace sipsn::rule {
+
+// The content of a token or a quoted string, as its member stores it.
+template< FromChars decode, PbString *normalize( PbString * ) >
+static PbString *NormalFromChars( const PbChar *chs, int64_t length )
+{
+    pb::Ref content{ decode( chs, length ) };
+    return content ? normalize( content.Get() ) : nullptr;
+}
+
+// Content that is not a token is kept as well.
+static constexpr bool IsAnyText( PbString * ) { return true; }
+
+static constexpr TextRule diversionReason{
+    .words      = "a reason",
+    .ok         = IsAnyText,
+    .production = sipsn___SkipDiversionReason,
+    .decoded    = NormalFromChars< sipsn___DiversionReasonTryDecode, sipsnDiversionReasonNormalize >,
+    .normal     = sipsnDiversionReasonNormalize };
+static constexpr TextRule diversionPrivacy{
+    .words      = "a privacy",
+    .ok         = IsAnyText,
+    .production = sipsn___SkipDiversionPrivacy,
+    .decoded    = NormalFromChars< sipsn___DiversionPrivacyTryDecode, sipsnDiversionPrivacyNormalize >,
+    .normal     = sipsnDiversionPrivacyNormalize };
+static constexpr TextRule diversionScreen{
+    .words      = "a screen",
+    .ok         = IsAnyText,
+    .production = sipsn___SkipDiversionScreen,
+    .decoded    = NormalFromChars< sipsn___DiversionScreenTryDecode, sipsnDiversionScreenNormalize >,
+    .normal     = sipsnDiversionScreenNormalize };
+static constexpr IntRule diversionCounter{ .words      = "a counter",
+                                           .ok         = sipsnDiversionCounterOk,
+                                           .lowest     = 0,
+                                           .highest    = 99,
+                                           .production = sipsn___SkipDiversionCounter,
+                                           .decoded    = DecimalFromChars };
+static constexpr IntRule diversionLimit{ .words      = "a limit",
+                                         .ok         = sipsnDiversionLimitOk,
+                                         .lowest     = 0,
+                                         .highest    = 99,
+                                         .production = sipsn___SkipDiversionLimit,
+                                         .decoded    = DecimalFromChars };
+
+} // namespace sipsn::rule
 
 struct SipsnDiversion
 {
@@ -26,27 +67,27 @@ struct SipsnDiversion
     PbString           *screen;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnDiversion::iri, &SipsnDiversion::displayName, &SipsnDiversion::reason,
-                                 &SipsnDiversion::counter, &SipsnDiversion::limit, &SipsnDiversion::privacy,
-                                 &SipsnDiversion::screen, &SipsnDiversion::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnDiversion::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnDiversion::displayName, sipsn::rule::displayName ),
+            sipsn::TextParam( "reason", &SipsnDiversion::reason, sipsn::rule::diversionReason ),
+            sipsn::IntParam( "counter", &SipsnDiversion::counter, sipsn::rule::diversionCounter ),
+            sipsn::IntParam( "limit", &SipsnDiversion::limit, sipsn::rule::diversionLimit ),
+            sipsn::TextParam( "privacy", &SipsnDiversion::privacy, sipsn::rule::diversionPrivacy ),
+            sipsn::TextParam( "screen", &SipsnDiversion::screen, sipsn::rule::diversionScreen ),
+            sipsn::OtherParams( &SipsnDiversion::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnDiversion, sipsnDiversion, SIPSN_DIVERSION, diversion, diversion, sipsn___DiversionEncode )
 
-// Takes over the references.
-static SipsnDiversion *CreateOwning( PbString *iri, PbString *displayName )
-{
-    SipsnDiversion *diversion = pb::New< SipsnDiversion >();
-    diversion->iri            = iri;
-    diversion->displayName    = displayName;
-    diversion->genericParams  = sipsnGenericParamsCreate();
-    return diversion;
-}
-
 SipsnDiversion *sipsnDiversionCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ), nullptr );
+    return sipsn::NewWith( &SipsnDiversion::iri, pb::Retain( iri ) );
 }
 
 SipsnDiversion *sipsnDiversionCreateWithDisplayName( PbString *iri, PbString *displayName )
@@ -123,56 +164,6 @@ void sipsnDiversionSetGenericParams( SipsnDiversion **diversion, SipsnGenericPar
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-// The content of a token or a quoted string, as its member stores it.
-template< sipsn::FromChars decode, PbString *normalize( PbString * ) >
-static PbString *NormalFromChars( const PbChar *chs, int64_t length )
-{
-    pb::Ref content{ decode( chs, length ) };
-    return content ? normalize( content.Get() ) : nullptr;
-}
+static constexpr sipsn::Address< SipsnDiversion > form{};
 
-static bool TakeTypedParam( Cursor &in, SipsnDiversion *diversion )
-{
-    return sipsn::TakeText( in, "reason", sipsn___SkipDiversionReason, diversion->reason,
-                            NormalFromChars< sipsn___DiversionReasonTryDecode, sipsnDiversionReasonNormalize > ) ||
-           sipsn::TakeInt( in, "counter", sipsn___SkipDiversionCounter, diversion->counter,
-                           sipsn___DiversionCounterTryDecode ) ||
-           sipsn::TakeInt( in, "limit", sipsn___SkipDiversionLimit, diversion->limit,
-                           sipsn___DiversionLimitTryDecode ) ||
-           sipsn::TakeText( in, "privacy", sipsn___SkipDiversionPrivacy, diversion->privacy,
-                            NormalFromChars< sipsn___DiversionPrivacyTryDecode, sipsnDiversionPrivacyNormalize > ) ||
-           sipsn::TakeText( in, "screen", sipsn___SkipDiversionScreen, diversion->screen,
-                            NormalFromChars< sipsn___DiversionScreenTryDecode, sipsnDiversionScreenNormalize > );
-}
-
-SipsnDiversion *sipsn___DiversionTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    Cursor          in{ chs, length };
-    sipsn::NameAddr address;
-    if( !sipsn::TryTakeNameAddr( in, &address ) ) return nullptr;
-
-    pb::Ref    diversion{ CreateOwning( address.iri.Detach(), address.displayName.Detach() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, diversion.Get() ); };
-    return sipsn::TryDecodeParams( in, &diversion->genericParams, takeTyped ) ? diversion.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnDiversion *diversion )
-{
-    WriteNameAddr( out, diversion->displayName, diversion->iri );
-    ParamWriter params{ out, diversion->genericParams };
-    params.Text( "reason", diversion->reason );
-    params.Int( "counter", diversion->counter );
-    params.Int( "limit", diversion->limit );
-    params.Text( "privacy", diversion->privacy );
-    params.Text( "screen", diversion->screen );
-    params.Generic();
-}
-
-PbString *sipsn___DiversionEncode( SipsnDiversion *diversion )
-{
-    PB_ASSERT( diversion );
-    return sipsn::Encode( diversion );
-}
+SIPSN_DEFINE_TEXT( Diversion, diversion, form )

@@ -8,7 +8,25 @@
 #include "sipsn_token_internal.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span, sipsn::StringFrom;
+using sipsn::BasicCursor, sipsn::Span, sipsn::StringFrom, sipsn::TextWriter;
+
+struct SipsnGenericParam
+{
+    PbObj     obj;
+    PbString *name;
+    int64_t   valueType;
+    PbString *value;
+
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnGenericParam::name, &SipsnGenericParam::valueType, &SipsnGenericParam::value };
+    }
+
+    struct CompareOrder // by the normal form of the value
+    {
+        static int64_t Compare( SipsnGenericParam &a, SipsnGenericParam &b );
+    };
+};
 
 SIPSN_DEFINE_TYPE( SipsnGenericParam, sipsnGenericParam, SIPSN_GENERIC_PARAM, param, param, sipsn___GenericParamEncode )
 
@@ -59,6 +77,8 @@ SipsnGenericParam *sipsnGenericParamCreateWithValueWcstr( const wchar_t *name, i
 
 // ---- Accessors -------------------------------------------------------------------------------------
 
+PbString *sipsn::PeekName( SipsnGenericParam *param ) { return param->name; }
+
 bool      sipsnGenericParamNameOk( PbString *name ) { return sipsnTokenOk( name ); }
 PbString *sipsnGenericParamNameNormalize( PbString *name ) { return sipsnTokenNormalize( name ); }
 
@@ -108,7 +128,7 @@ void sipsnGenericParamNormalizeValue( SipsnGenericParam **param )
     pb::Set( ( *param )->value, sipsnGenericParamValueNormalized( *param ) );
 }
 
-int64_t SipsnGenericParam::ValueOrder::Compare( SipsnGenericParam &a, SipsnGenericParam &b )
+int64_t SipsnGenericParam::CompareOrder::Compare( SipsnGenericParam &a, SipsnGenericParam &b )
 {
     if( int64_t order = pb::Kind< PbString * >::Compare( a.name, b.name ) ) return order;
     if( int64_t order = pb::Kind< int64_t >::Compare( a.valueType, b.valueType ) ) return order;
@@ -120,24 +140,26 @@ int64_t SipsnGenericParam::ValueOrder::Compare( SipsnGenericParam &a, SipsnGener
 // ---- Text form -------------------------------------------------------------------------------------
 
 // The value behind "=": the first form that matches is the only one tried.
-static PbString *TakeValue( Cursor &in, int64_t *type )
+template< class Link > static PbString *TakeValue( BasicCursor< Link > &in, int64_t *type )
 {
-    if( Span token = in.Take( sipsn___SkipToken ) ) {
+    if( Span token = in.Take( sipsn___SkipToken, "a token" ) ) {
         *type = SIPSN_GENERIC_PARAM_VALUE_TYPE_TOKEN;
         return token.ToString();
     }
-    if( Span host = in.Take( sipsn___SkipHost ) ) {
-        *type = SIPSN_GENERIC_PARAM_VALUE_TYPE_HOST;
-        return sipsn___HostTryDecode( host.chs, host.length );
+    if( Span host = in.Take( sipsn___SkipHost, "a host" ) ) {
+        *type             = SIPSN_GENERIC_PARAM_VALUE_TYPE_HOST;
+        PbString *decoded = sipsn___HostTryDecode( host.chs, host.length );
+        if( !decoded ) in.Refuse( host, "a host" );
+        return decoded;
     }
     *type       = SIPSN_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING;
-    Span quoted = in.Take( sipsn___SkipQuotedString );
+    Span quoted = in.Take( sipsn___SkipQuotedString, "a quoted string" );
     return quoted ? sipsn::Unquote( quoted.chs, quoted.length ) : nullptr;
 }
 
-SipsnGenericParam *sipsn::TakeGenericParam( Cursor &in )
+template< class Link > SipsnGenericParam *sipsn::TakeGenericParam( BasicCursor< Link > &in )
 {
-    Span name = in.Take( sipsn___SkipToken );
+    Span name = in.Take( sipsn___SkipToken, "a parameter" );
     if( !name ) return nullptr;
     int64_t   type  = SIPSN_GENERIC_PARAM_VALUE_TYPE_NONE;
     PbString *value = nullptr;
@@ -148,17 +170,10 @@ SipsnGenericParam *sipsn::TakeGenericParam( Cursor &in )
     return CreateOwning( LowerFromChars( name.chs, name.length ), type, value );
 }
 
-SipsnGenericParam *sipsn___GenericParamTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+template SipsnGenericParam *sipsn::TakeGenericParam( Cursor & );
+template SipsnGenericParam *sipsn::TakeGenericParam( WatchedCursor & );
 
-    Cursor  in{ chs, length };
-    pb::Ref param{ sipsn::TakeGenericParam( in ) };
-    return in.AtEnd() ? param.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnGenericParam *param )
+void sipsn::WriteGenericParam( TextWriter &out, SipsnGenericParam *param )
 {
     out.Text( param->name );
     if( param->valueType == SIPSN_GENERIC_PARAM_VALUE_TYPE_NONE ) return;
@@ -172,8 +187,21 @@ void sipsn::Write( TextWriter &out, SipsnGenericParam *param )
     }
 }
 
-PbString *sipsn___GenericParamEncode( SipsnGenericParam *param )
+namespace {
+
+struct Form
 {
-    PB_ASSERT( param );
-    return sipsn::Encode( param );
-}
+    template< class Link > SipsnGenericParam *TryDecode( BasicCursor< Link > &in ) const
+    {
+        pb::Ref param{ sipsn::TakeGenericParam( in ) };
+        return in.AtEnd() ? param.Detach() : nullptr;
+    }
+
+    void Write( TextWriter &out, SipsnGenericParam &param ) const { sipsn::WriteGenericParam( out, &param ); }
+};
+
+constexpr Form form{};
+
+} // namespace
+
+SIPSN_DEFINE_TEXT( GenericParam, param, form )

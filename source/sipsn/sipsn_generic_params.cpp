@@ -4,14 +4,14 @@
 #include "sipsn_skip_internal.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::StringFrom;
+using sipsn::BasicCursor, sipsn::StringFrom, sipsn::TextWriter;
 
 struct SipsnGenericParams
 {
     PbObj   obj;
     PbDict *params; // name to SipsnGenericParam; null exactly when there are none, which most values have
 
-    using Members = pb::Members< &SipsnGenericParams::params >;
+    static constexpr auto Members() { return pb::Members{ &SipsnGenericParams::params }; }
 };
 
 SIPSN_DEFINE_TYPE( SipsnGenericParams, sipsnGenericParams, SIPSN_GENERIC_PARAMS, params, params,
@@ -118,7 +118,7 @@ SipsnGenericParam *sipsnGenericParamsParamWcstr( SipsnGenericParams *params, con
 int64_t sipsnGenericParamsParamValueType( SipsnGenericParams *params, PbString *name )
 {
     SipsnGenericParam *param = Peek( params, name );
-    return param ? param->valueType : int64_t{ SIPSN_GENERIC_PARAM_VALUE_TYPE_NONE };
+    return param ? sipsnGenericParamValueType( param ) : int64_t{ SIPSN_GENERIC_PARAM_VALUE_TYPE_NONE };
 }
 
 int64_t sipsnGenericParamsParamValueTypeCstr( SipsnGenericParams *params, const char *name, int64_t nameLength )
@@ -171,7 +171,7 @@ PbString *sipsnGenericParamsParamValueNormalizedWcstr( SipsnGenericParams *param
 void sipsn::SetParamOwned( SipsnGenericParams **params, SipsnGenericParam *param )
 {
     if( !( *params )->params ) ( *params )->params = pb___DictCreateWithCapacity( 2 );
-    pb___DictSetOwned( &( *params )->params, pb::Retain( param->name ), pb::AsObj( param ) );
+    pb___DictSetOwned( &( *params )->params, pb::Retain( sipsn::PeekName( param ) ), pb::AsObj( param ) );
 }
 
 void sipsnGenericParamsSetParam( SipsnGenericParams **params, SipsnGenericParam *param )
@@ -222,20 +222,25 @@ void sipsnGenericParamsDelParamWcstr( SipsnGenericParams **params, const wchar_t
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-SipsnGenericParams *sipsn___GenericParamsTryDecode( const PbChar *chs, int64_t length )
+namespace {
+
+struct Form
 {
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+    template< class Link > SipsnGenericParams *TryDecode( BasicCursor< Link > &in ) const
+    {
+        pb::Ref    params{ sipsnGenericParamsCreate() };
+        const auto noneTyped = []( BasicCursor< Link > & ) { return false; };
+        return TryDecodeParams( in, params.Slot(), noneTyped, sipsn::Rest::fails ) ? params.Detach() : nullptr;
+    }
 
-    Cursor  in{ chs, length };
-    pb::Ref params{ sipsnGenericParamsCreate() };
-    return sipsn::TryDecodeParams( in, params.Slot(), []( Cursor & ) { return false; } ) ? params.Detach() : nullptr;
-}
+    void Write( TextWriter &out, SipsnGenericParams &params ) const
+    {
+        WriteGenericParams( out, &params, []( PbString * ) { return false; } );
+    }
+};
 
-void sipsn::Write( TextWriter &out, SipsnGenericParams *params ) { ParamWriter{ out, params }.Generic(); }
+constexpr Form form{};
 
-PbString *sipsn___GenericParamsEncode( SipsnGenericParams *params )
-{
-    PB_ASSERT( params );
-    return sipsn::Encode( params );
-}
+} // namespace
+
+SIPSN_DEFINE_TEXT( GenericParams, params, form )

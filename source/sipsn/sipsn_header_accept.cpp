@@ -3,26 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderAccept
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderAccept::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "accepts", &SipsnHeaderAccept::items, sipsn___SkipAccept, sipsn::schemaAccept ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAccept, sipsn___PbsAccept, "Accept" )
+SIPSN_DEFINE_NAME( Accept, "Accept" )
 
-static constexpr sipsn::List< SipsnHeaderAccept > shape{
-    .items   = &SipsnHeaderAccept::items,
-    .item    = sipsn___SkipAccept,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderAccept > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAccept, sipsnHeaderAccept, SIPSN_HEADER_ACCEPT, sipsn___PbsAccept, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderAccept, sipsnHeaderAccept, Accepts, Accept, SipsnAccept, accept, sipsn___AcceptEncode )
+SIPSN_DEFINE_HEADER( Accept, SIPSN_HEADER_ACCEPT, shape )
+SIPSN_DEFINE_LIST( Accept, Accepts, Accept, SipsnAccept, accept, sipsn___AcceptEncode )
 
 SipsnHeaderAccept *sipsnHeaderAcceptCreate( void ) { return shape.Create(); }
 void               sipsnHeaderAcceptClearAccepts( SipsnHeaderAccept **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,28 +3,26 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderAcceptEncoding
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderAcceptEncoding::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "acceptEncodings", &SipsnHeaderAcceptEncoding::items,
+                                           sipsn___SkipAcceptEncoding, sipsn::schemaAcceptEncoding ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAcceptEncoding, sipsn___PbsAcceptEncoding, "Accept-Encoding" )
+SIPSN_DEFINE_NAME( AcceptEncoding, "Accept-Encoding" )
 
-static constexpr sipsn::List< SipsnHeaderAcceptEncoding > shape{
-    .items   = &SipsnHeaderAcceptEncoding::items,
-    .item    = sipsn___SkipAcceptEncoding,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderAcceptEncoding > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAcceptEncoding, sipsnHeaderAcceptEncoding, SIPSN_HEADER_ACCEPT_ENCODING,
-                     sipsn___PbsAcceptEncoding, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderAcceptEncoding, sipsnHeaderAcceptEncoding, AcceptEncodings, AcceptEncoding,
-                   SipsnAcceptEncoding, acceptEncoding, sipsn___AcceptEncodingEncode )
+SIPSN_DEFINE_HEADER( AcceptEncoding, SIPSN_HEADER_ACCEPT_ENCODING, shape )
+SIPSN_DEFINE_LIST( AcceptEncoding, AcceptEncodings, AcceptEncoding, SipsnAcceptEncoding, acceptEncoding,
+                   sipsn___AcceptEncodingEncode )
 
 SipsnHeaderAcceptEncoding *sipsnHeaderAcceptEncodingCreate( void ) { return shape.Create(); }
 void sipsnHeaderAcceptEncodingClearAcceptEncodings( SipsnHeaderAcceptEncoding **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

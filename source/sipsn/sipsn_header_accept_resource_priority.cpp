@@ -3,23 +3,21 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderAcceptResourcePriority
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderAcceptResourcePriority::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "rvalues", &SipsnHeaderAcceptResourcePriority::items, sipsn::rule::rvalue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAcceptResourcePriority, sipsn___PbsAcceptResourcePriority, "Accept-Resource-Priority" )
+SIPSN_DEFINE_NAME( AcceptResourcePriority, "Accept-Resource-Priority" )
 
-static constexpr sipsn::List< SipsnHeaderAcceptResourcePriority > shape{
-    .items   = &SipsnHeaderAcceptResourcePriority::items,
-    .item    = sipsn___SkipRvalue,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderAcceptResourcePriority > shape{ .noLines = sipsn::NoLines::givesNull };
 
 static PbString *Stored( PbString *rvalue )
 {
@@ -27,10 +25,8 @@ static PbString *Stored( PbString *rvalue )
     return pb::Retain( rvalue );
 }
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAcceptResourcePriority, sipsnHeaderAcceptResourcePriority,
-                     SIPSN_HEADER_ACCEPT_RESOURCE_PRIORITY, sipsn___PbsAcceptResourcePriority, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderAcceptResourcePriority, sipsnHeaderAcceptResourcePriority, Rvalues, Rvalue, PbString,
-                   rvalue, Stored )
+SIPSN_DEFINE_HEADER( AcceptResourcePriority, SIPSN_HEADER_ACCEPT_RESOURCE_PRIORITY, shape )
+SIPSN_DEFINE_LIST( AcceptResourcePriority, Rvalues, Rvalue, PbString, rvalue, Stored )
 
 SipsnHeaderAcceptResourcePriority *sipsnHeaderAcceptResourcePriorityCreate( void ) { return shape.Create(); }
 

@@ -3,27 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderAlertInfo
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderAlertInfo::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "alertInfos", &SipsnHeaderAlertInfo::items, sipsn___SkipAlertInfo,
+                                           sipsn::schemaAlertInfo ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAlertInfo, sipsn___PbsAlertInfo, "Alert-Info" )
+SIPSN_DEFINE_NAME( AlertInfo, "Alert-Info" )
 
-static constexpr sipsn::List< SipsnHeaderAlertInfo > shape{
-    .items   = &SipsnHeaderAlertInfo::items,
-    .item    = sipsn___SkipAlertInfo,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderAlertInfo > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAlertInfo, sipsnHeaderAlertInfo, SIPSN_HEADER_ALERT_INFO, sipsn___PbsAlertInfo, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderAlertInfo, sipsnHeaderAlertInfo, AlertInfos, AlertInfo, SipsnAlertInfo, alertInfo,
-                   sipsn___AlertInfoEncode )
+SIPSN_DEFINE_HEADER( AlertInfo, SIPSN_HEADER_ALERT_INFO, shape )
+SIPSN_DEFINE_LIST( AlertInfo, AlertInfos, AlertInfo, SipsnAlertInfo, alertInfo, sipsn___AlertInfoEncode )
 
 SipsnHeaderAlertInfo *sipsnHeaderAlertInfoCreate( void ) { return shape.Create(); }
 void                  sipsnHeaderAlertInfoClearAlertInfos( SipsnHeaderAlertInfo **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,7 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 using sipsn::StringFrom;
 
@@ -12,21 +11,24 @@ struct SipsnHeaderAllow
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderAllow::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "methods", &SipsnHeaderAllow::items, sipsn::rule::method ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAllow, sipsn___PbsAllow, "Allow" )
+SIPSN_DEFINE_NAME( Allow, "Allow" )
 
-static constexpr sipsn::Set< SipsnHeaderAllow > shape{ .items = &SipsnHeaderAllow::items, .item = sipsn___SkipMethod };
+static constexpr sipsn::Set< SipsnHeaderAllow > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAllow, sipsnHeaderAllow, SIPSN_HEADER_ALLOW, sipsn___PbsAllow, shape )
+SIPSN_DEFINE_HEADER( Allow, SIPSN_HEADER_ALLOW, shape )
 
 static PbString *Key( PbString *method )
 {
     PB_ASSERT( sipsnMethodOk( method ) );
     return pb::Retain( method );
 }
-SIPSN_DEFINE_SET( SipsnHeaderAllow, sipsnHeaderAllow, Methods, Method, method, Key )
+SIPSN_DEFINE_SET( Allow, Methods, Method, method, Key )
 
 SipsnHeaderAllow *sipsnHeaderAllowCreate( void ) { return shape.Create(); }
 

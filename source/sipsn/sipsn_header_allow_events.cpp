@@ -3,7 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 using sipsn::StringFrom;
 
@@ -12,25 +11,24 @@ struct SipsnHeaderAllowEvents
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderAllowEvents::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "eventTypes", &SipsnHeaderAllowEvents::items, sipsn::rule::eventType ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderAllowEvents, sipsn___PbsAllowEvents, "Allow-Events" )
+SIPSN_DEFINE_NAME( AllowEvents, "Allow-Events" )
 
-static constexpr sipsn::Set< SipsnHeaderAllowEvents > shape{
-    .items = &SipsnHeaderAllowEvents::items,
-    .item  = sipsn___SkipEventType,
-};
+static constexpr sipsn::Set< SipsnHeaderAllowEvents > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents, SIPSN_HEADER_ALLOW_EVENTS, sipsn___PbsAllowEvents,
-                     shape )
+SIPSN_DEFINE_HEADER( AllowEvents, SIPSN_HEADER_ALLOW_EVENTS, shape )
 
 static PbString *Key( PbString *eventType )
 {
     PB_ASSERT( sipsnEventTypeOk( eventType ) );
     return pb::Retain( eventType );
 }
-SIPSN_DEFINE_SET( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents, EventTypes, EventType, eventType, Key )
+SIPSN_DEFINE_SET( AllowEvents, EventTypes, EventType, eventType, Key )
 
 SipsnHeaderAllowEvents *sipsnHeaderAllowEventsCreate( void ) { return shape.Create(); }
 

@@ -9,14 +9,19 @@ struct SipsnHeaderCallId
     PbObj     obj;
     PbString *callId;
 
-    using Members = pb::Members< &SipsnHeaderCallId::callId >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "callId", &SipsnHeaderCallId::callId, sipsn::rule::callId ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderCallId, sipsn___PbsCallId, "Call-Id" )
+SIPSN_DEFINE_NAME( CallId, "Call-Id" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderCallId > shape{ .text = &SipsnHeaderCallId::callId, .ok = sipsnCallIdOk };
+static constexpr sipsn::WholeLine< SipsnHeaderCallId > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderCallId, sipsnHeaderCallId, SIPSN_HEADER_CALL_ID, sipsn___PbsCallId, shape )
+SIPSN_DEFINE_HEADER( CallId, SIPSN_HEADER_CALL_ID, shape )
 
 SipsnHeaderCallId *sipsnHeaderCallIdCreate( PbString *callId )
 {

@@ -3,27 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderCallInfo
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderCallInfo::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "callInfos", &SipsnHeaderCallInfo::items, sipsn___SkipCallInfo, sipsn::schemaCallInfo ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderCallInfo, sipsn___PbsCallInfo, "Call-Info" )
+SIPSN_DEFINE_NAME( CallInfo, "Call-Info" )
 
-static constexpr sipsn::List< SipsnHeaderCallInfo > shape{
-    .items   = &SipsnHeaderCallInfo::items,
-    .item    = sipsn___SkipCallInfo,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderCallInfo > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderCallInfo, sipsnHeaderCallInfo, SIPSN_HEADER_CALL_INFO, sipsn___PbsCallInfo, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderCallInfo, sipsnHeaderCallInfo, CallInfos, CallInfo, SipsnCallInfo, callInfo,
-                   sipsn___CallInfoEncode )
+SIPSN_DEFINE_HEADER( CallInfo, SIPSN_HEADER_CALL_INFO, shape )
+SIPSN_DEFINE_LIST( CallInfo, CallInfos, CallInfo, SipsnCallInfo, callInfo, sipsn___CallInfoEncode )
 
 SipsnHeaderCallInfo *sipsnHeaderCallInfoCreate( void ) { return shape.Create(); }
 void                 sipsnHeaderCallInfoClearCallInfos( SipsnHeaderCallInfo **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

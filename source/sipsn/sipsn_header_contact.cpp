@@ -3,7 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderContact
 {
@@ -11,16 +10,17 @@ struct SipsnHeaderContact
     bool      starForm;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderContact::starForm, &SipsnHeaderContact::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnHeaderContact::starForm, sipsn::Values( "contacts", &SipsnHeaderContact::items,
+                                                                          sipsn___SkipContact, sipsn::schemaContact )
+                                                               .Star( &SipsnHeaderContact::starForm ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderContact, sipsn___PbsContact, "Contact" )
+SIPSN_DEFINE_NAME( Contact, "Contact" )
 
-static constexpr sipsn::List< SipsnHeaderContact > contacts{
-    .items   = &SipsnHeaderContact::items,
-    .item    = sipsn___SkipContact,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderContact > contacts{ .noLines = sipsn::NoLines::givesNull };
 
 // That list, or the line "*" instead.
 struct ContactShape
@@ -46,6 +46,13 @@ struct ContactShape
         return Create( true );
     }
 
+    bool WatchLine( sipsn::Span line, sipsn::Watch &watch ) const
+    {
+        sipsn::WatchedCursor in{ line, { &watch } };
+        return in.Sees( sipsn___SkipStar ) ? in.Take( sipsn___SkipStar ) && in.AtEnd()
+                                           : contacts.WatchLine( line, watch );
+    }
+
     SipsnMessageHeader *Encode( SipsnHeaderContact *hdr, PbString *name ) const
     {
         if( !hdr->starForm || pbVectorLength( hdr->items ) > 0 ) return contacts.Encode( hdr, name );
@@ -55,9 +62,8 @@ struct ContactShape
 
 static constexpr ContactShape shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderContact, sipsnHeaderContact, SIPSN_HEADER_CONTACT, sipsn___PbsContact, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderContact, sipsnHeaderContact, Contacts, Contact, SipsnContact, contact,
-                   sipsn___ContactEncode )
+SIPSN_DEFINE_HEADER( Contact, SIPSN_HEADER_CONTACT, shape )
+SIPSN_DEFINE_LIST( Contact, Contacts, Contact, SipsnContact, contact, sipsn___ContactEncode )
 
 SipsnHeaderContact *sipsnHeaderContactCreate( void ) { return shape.Create( false ); }
 

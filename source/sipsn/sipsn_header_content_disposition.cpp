@@ -3,10 +3,21 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
-using sipsn::Cursor, sipsn::Span;
+namespace sipsn::rule {
+
+static constexpr TextRule dispositionType{ .words      = "a disposition type",
+                                           .ok         = sipsnDispositionTypeOk,
+                                           .production = sipsn___SkipDispositionType,
+                                           .decoded    = LowerFromChars,
+                                           .normal     = ToLower };
+static constexpr TextRule handling{ .words      = "a handling",
+                                    .ok         = sipsnHandlingOk,
+                                    .production = sipsn___SkipHandling,
+                                    .decoded    = LowerFromChars,
+                                    .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderContentDisposition
 {
@@ -15,34 +26,29 @@ struct SipsnHeaderContentDisposition
     PbString           *handling;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnHeaderContentDisposition::dispositionType, &SipsnHeaderContentDisposition::handling,
-                     &SipsnHeaderContentDisposition::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "dispositionType", &SipsnHeaderContentDisposition::dispositionType,
+                         sipsn::rule::dispositionType ),
+            sipsn::TextParam( "handling", &SipsnHeaderContentDisposition::handling, sipsn::rule::handling ),
+            sipsn::OtherParams( &SipsnHeaderContentDisposition::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderContentDisposition, sipsn___PbsContentDisposition, "Content-Disposition" )
+SIPSN_DEFINE_NAME( ContentDisposition, "Content-Disposition" )
 
-static SipsnHeaderContentDisposition *TryDecode( PbString *line );
-static PbString                      *EncodeLine( SipsnHeaderContentDisposition *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderContentDisposition, sipsn::Params< SipsnHeaderContentDisposition > >
+    shape{};
 
-static constexpr sipsn::Single< SipsnHeaderContentDisposition > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderContentDisposition, sipsnHeaderContentDisposition, SIPSN_HEADER_CONTENT_DISPOSITION,
-                     sipsn___PbsContentDisposition, shape )
-
-// Takes over the reference.
-static SipsnHeaderContentDisposition *CreateOwning( PbString *dispositionType )
-{
-    SipsnHeaderContentDisposition *hdr = pb::New< SipsnHeaderContentDisposition >();
-    hdr->dispositionType               = dispositionType;
-    hdr->genericParams                 = sipsnGenericParamsCreate();
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( ContentDisposition, SIPSN_HEADER_CONTENT_DISPOSITION, shape )
 
 // The normaliser checks the text.
 SipsnHeaderContentDisposition *sipsnHeaderContentDispositionCreate( PbString *dispositionType )
 {
-    return CreateOwning( sipsnDispositionTypeNormalize( dispositionType ) );
+    return sipsn::NewWith( &SipsnHeaderContentDisposition::dispositionType,
+                           sipsnDispositionTypeNormalize( dispositionType ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -78,32 +84,4 @@ void sipsnHeaderContentDispositionSetGenericParams( SipsnHeaderContentDispositio
                                                     SipsnGenericParams             *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static bool TakeTypedParam( Cursor &in, SipsnHeaderContentDisposition *hdr )
-{
-    return sipsn::TakeText( in, "handling", sipsn___SkipHandling, hdr->handling, sipsn::LowerFromChars );
-}
-
-static SipsnHeaderContentDisposition *TryDecode( PbString *line )
-{
-    Cursor     in{ line->chs, line->length };
-    const Span dispositionType = in.Take( sipsn___SkipDispositionType );
-    if( !dispositionType ) return nullptr;
-
-    pb::Ref    hdr{ CreateOwning( sipsn::LowerFromChars( dispositionType.chs, dispositionType.length ) ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hdr.Get() ); };
-    return sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped ) ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderContentDisposition *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Text( hdr->dispositionType );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "handling", hdr->handling );
-        params.Generic();
-    } );
 }

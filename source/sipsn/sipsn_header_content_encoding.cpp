@@ -3,26 +3,23 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 struct SipsnHeaderContentEncoding
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderContentEncoding::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Items( "contentCodings", &SipsnHeaderContentEncoding::items, sipsn::rule::contentCoding ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderContentEncoding, sipsn___PbsContentEncoding, "Content-Encoding" )
+SIPSN_DEFINE_NAME( ContentEncoding, "Content-Encoding" )
 
-static constexpr sipsn::List< SipsnHeaderContentEncoding > shape{
-    .items   = &SipsnHeaderContentEncoding::items,
-    .item    = sipsn___SkipContentCoding,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-    .lines   = sipsn::Lines::joined,
-    .stored  = sipsn::LowerFromChars,
-};
+static constexpr sipsn::List< SipsnHeaderContentEncoding > shape{ .noLines = sipsn::NoLines::givesEmptyHeader,
+                                                                  .lines   = sipsn::Lines::joined };
 
 // A caller's coding is kept as it is, unlike a decoded one.
 static PbString *Stored( PbString *contentCoding )
@@ -31,10 +28,8 @@ static PbString *Stored( PbString *contentCoding )
     return pb::Retain( contentCoding );
 }
 
-SIPSN_DEFINE_HEADER( SipsnHeaderContentEncoding, sipsnHeaderContentEncoding, SIPSN_HEADER_CONTENT_ENCODING,
-                     sipsn___PbsContentEncoding, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderContentEncoding, sipsnHeaderContentEncoding, ContentCodings, ContentCoding, PbString,
-                   contentCoding, Stored )
+SIPSN_DEFINE_HEADER( ContentEncoding, SIPSN_HEADER_CONTENT_ENCODING, shape )
+SIPSN_DEFINE_LIST( ContentEncoding, ContentCodings, ContentCoding, PbString, contentCoding, Stored )
 
 SipsnHeaderContentEncoding *sipsnHeaderContentEncodingCreate( void ) { return shape.Create(); }
 

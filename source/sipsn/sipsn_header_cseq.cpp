@@ -3,10 +3,8 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
-using sipsn::Cursor, sipsn::Span, sipsn::StringFrom;
+using sipsn::StringFrom;
 
 struct SipsnHeaderCseq
 {
@@ -14,32 +12,28 @@ struct SipsnHeaderCseq
     int64_t   cseq;
     PbString *method;
 
-    using Members = pb::Members< &SipsnHeaderCseq::cseq, &SipsnHeaderCseq::method >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "cseq", &SipsnHeaderCseq::cseq, sipsn::rule::cseq ),
+            sipsn::Text( "method", &SipsnHeaderCseq::method, sipsn::rule::method ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderCseq, sipsn___PbsCseq, "Cseq" )
+SIPSN_DEFINE_NAME( Cseq, "Cseq" )
 
-static SipsnHeaderCseq *TryDecode( PbString *line );
-static PbString        *EncodeLine( SipsnHeaderCseq *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderCseq, sipsn::Words< SipsnHeaderCseq > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderCseq > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderCseq, sipsnHeaderCseq, SIPSN_HEADER_CSEQ, sipsn___PbsCseq, shape )
-
-// Takes over the reference.
-static SipsnHeaderCseq *CreateOwning( int64_t cseq, PbString *method )
-{
-    SipsnHeaderCseq *hdr = pb::New< SipsnHeaderCseq >();
-    hdr->cseq            = cseq;
-    hdr->method          = method;
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( Cseq, SIPSN_HEADER_CSEQ, shape )
 
 SipsnHeaderCseq *sipsnHeaderCseqCreate( int64_t cseq, PbString *method )
 {
     PB_ASSERT( sipsnCseqOk( cseq ) );
     PB_ASSERT( sipsnMethodOk( method ) );
-    return CreateOwning( cseq, pb::Retain( method ) );
+    SipsnHeaderCseq *hdr = sipsn::NewWith( &SipsnHeaderCseq::method, pb::Retain( method ) );
+    hdr->cseq            = cseq;
+    return hdr;
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -61,24 +55,4 @@ void sipsnHeaderCseqSetMethodCstr( SipsnHeaderCseq **hdr, const char *method, in
 void sipsnHeaderCseqSetMethodWcstr( SipsnHeaderCseq **hdr, const wchar_t *method, int64_t methodLength )
 {
     sipsnHeaderCseqSetMethod( hdr, StringFrom( method, methodLength ).Get() );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static SipsnHeaderCseq *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t cseq = sipsn::TakeDecimal( in );
-    if( !sipsnCseqOk( cseq ) || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    const Span method = in.Take( sipsn___SkipMethod );
-    return method && in.AtEnd() ? CreateOwning( cseq, method.ToString() ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderCseq *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Int( hdr->cseq );
-        out.Char( ' ' );
-        out.Text( hdr->method );
-    } );
 }

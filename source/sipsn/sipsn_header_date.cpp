@@ -3,59 +3,23 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
-using sipsn::Cursor, sipsn::Span;
+using sipsn::BasicCursor, sipsn::Span, sipsn::TextWriter;
 
 struct SipsnHeaderDate
 {
     PbObj   obj;
     PbTime *time;
 
-    using Members = pb::Members< &SipsnHeaderDate::time >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Time( "time", &SipsnHeaderDate::time ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderDate, sipsn___PbsDate, "Date" )
-
-static SipsnHeaderDate *TryDecode( PbString *line );
-static PbString        *EncodeLine( SipsnHeaderDate *hdr );
-
-static constexpr sipsn::Single< SipsnHeaderDate > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderDate, sipsnHeaderDate, SIPSN_HEADER_DATE, sipsn___PbsDate, shape )
-
-// Takes over the reference.
-static SipsnHeaderDate *CreateOwning( PbTime *time )
-{
-    SipsnHeaderDate *hdr = pb::New< SipsnHeaderDate >();
-    hdr->time            = time;
-    return hdr;
-}
-
-SipsnHeaderDate *sipsnHeaderDateCreate( PbTime *tm )
-{
-    PB_ASSERT( tm );
-    return CreateOwning( pb::Retain( tm ) );
-}
-
-SipsnHeaderDate *sipsnHeaderDateCreateFromCurrentTime( void ) { return CreateOwning( pbTimeNow() ); }
-
-PbTime *sipsnHeaderDateTime( SipsnHeaderDate *hdr ) { return PB_GET( hdr, time ); }
-void    sipsnHeaderDateSetTime( SipsnHeaderDate **hdr, PbTime *tm ) { PB_SET( hdr, time, tm, pb::Retain( tm ) ); }
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static constexpr std::string_view weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
-static constexpr std::string_view months[]   = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                 "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
-
-static bool TakeNumber( Cursor &in, int64_t digits, int64_t &number )
-{
-    const Span text = in.Digits( digits );
-    number          = sipsn::DecodeInt( text.chs, text.length, 9999 );
-    return number >= 0;
-}
+SIPSN_DEFINE_NAME( Date, "Date" )
 
 namespace {
 
@@ -65,42 +29,75 @@ struct Fields
     int64_t weekday, day, month, year, hour, minute, second;
 };
 
-} // namespace
+constexpr std::string_view weekdays[] = { "Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun" };
+constexpr std::string_view months[]   = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                          "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
 
-static bool TakeFields( Cursor &in, Fields &read )
+template< class Link > bool TakeNumber( BasicCursor< Link > &in, int64_t digits, int64_t &number )
 {
-    return in.Take( sipsn___SkipWkday, read.weekday ) && in.Text( ", " ) && TakeNumber( in, 2, read.day ) &&
-           in.Text( " " ) && in.Take( sipsn___SkipMonth, read.month ) && in.Text( " " ) &&
-           TakeNumber( in, 4, read.year ) && in.Text( " " ) && TakeNumber( in, 2, read.hour ) && in.Text( ":" ) &&
-           TakeNumber( in, 2, read.minute ) && in.Text( ":" ) && TakeNumber( in, 2, read.second ) && in.Text( " GMT" );
+    const Span text = in.Digits( digits );
+    number          = sipsn::DecodeInt( text.chs, text.length, 9999 );
+    return number >= 0;
 }
 
-static SipsnHeaderDate *TryDecode( PbString *line )
+template< class Link > bool TakeFields( BasicCursor< Link > &in, Fields &read )
 {
-    Cursor in{ line->chs, line->length };
-    Fields read{};
-    if( !TakeFields( in, read ) || !in.AtEnd() ) return nullptr;
-
-    pb::Ref time{ pbTimeCreate() };
-    pbTimeSetDay( time.Slot(), read.day );
-    pbTimeSetMonth( time.Slot(), read.month );
-    pbTimeSetYear( time.Slot(), read.year );
-    pbTimeSetHour( time.Slot(), read.hour );
-    pbTimeSetMinute( time.Slot(), read.minute );
-    pbTimeSetSecond( time.Slot(), read.second );
-    const bool good = pbTimeValid( time.Get() ) && pbTimeWeekday( time.Get() ) == read.weekday;
-    return good ? CreateOwning( time.Detach() ) : nullptr;
+    return in.Take( sipsn___SkipWkday, read.weekday, "a weekday" ) && in.Text( ", " ) &&
+           TakeNumber( in, 2, read.day ) && in.Text( " " ) && in.Take( sipsn___SkipMonth, read.month, "a month" ) &&
+           in.Text( " " ) && TakeNumber( in, 4, read.year ) && in.Text( " " ) && TakeNumber( in, 2, read.hour ) &&
+           in.Text( ":" ) && TakeNumber( in, 2, read.minute ) && in.Text( ":" ) && TakeNumber( in, 2, read.second ) &&
+           in.Text( " GMT" );
 }
 
-static PbString *EncodeLine( SipsnHeaderDate *hdr )
+// An rfc1123-date. A date that does not exist is refused, and one on another weekday.
+struct Form
 {
-    PbTime *time = hdr->time;
-    return sipsn::TextOf( [ & ]( auto &out ) {
+    template< class Link > SipsnHeaderDate *TryDecode( BasicCursor< Link > &in ) const
+    {
+        const Span line = in.Rest();
+        Fields     read{};
+        if( !TakeFields( in, read ) || !in.AtEnd() ) return nullptr;
+
+        pb::Ref time{ pbTimeCreate() };
+        pbTimeSetDay( time.Slot(), read.day );
+        pbTimeSetMonth( time.Slot(), read.month );
+        pbTimeSetYear( time.Slot(), read.year );
+        pbTimeSetHour( time.Slot(), read.hour );
+        pbTimeSetMinute( time.Slot(), read.minute );
+        pbTimeSetSecond( time.Slot(), read.second );
+        const bool good = pbTimeValid( time.Get() ) && pbTimeWeekday( time.Get() ) == read.weekday;
+        if( !good && !in.Refuse( line, "a date that exists, on its weekday" ) ) return nullptr;
+        return sipsn::NewWith( &SipsnHeaderDate::time, time.Detach() );
+    }
+
+    void Write( TextWriter &out, SipsnHeaderDate &hdr ) const
+    {
+        PbTime *time = hdr.time;
         if( pbTimeValid( time ) ) out.Ascii( weekdays[ pbTimeWeekday( time ) ] );
         out.Take( pbStringCreateFromFormatCstr( ", %02i ", -1, pbTimeDay( time ) ) );
         const int64_t month = pbTimeMonth( time );
         if( month >= 1 && month <= 12 ) out.Ascii( months[ month - 1 ] );
         out.Take( pbStringCreateFromFormatCstr( " %04i %02i:%02i:%02i GMT", -1, pbTimeYear( time ), pbTimeHour( time ),
                                                 pbTimeMinute( time ), pbTimeSecond( time ) ) );
-    } );
+    }
+};
+
+} // namespace
+
+static constexpr sipsn::LastLine< SipsnHeaderDate, Form > shape{};
+
+SIPSN_DEFINE_HEADER( Date, SIPSN_HEADER_DATE, shape )
+
+SipsnHeaderDate *sipsnHeaderDateCreate( PbTime *tm )
+{
+    PB_ASSERT( tm );
+    return sipsn::NewWith( &SipsnHeaderDate::time, pb::Retain( tm ) );
 }
+
+SipsnHeaderDate *sipsnHeaderDateCreateFromCurrentTime( void )
+{
+    return sipsn::NewWith( &SipsnHeaderDate::time, pbTimeNow() );
+}
+
+PbTime *sipsnHeaderDateTime( SipsnHeaderDate *hdr ) { return PB_GET( hdr, time ); }
+void    sipsnHeaderDateSetTime( SipsnHeaderDate **hdr, PbTime *tm ) { PB_SET( hdr, time, tm, pb::Retain( tm ) ); }

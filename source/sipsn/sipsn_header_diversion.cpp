@@ -3,27 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderDiversion
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderDiversion::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "diversions", &SipsnHeaderDiversion::items, sipsn___SkipDiversion,
+                                           sipsn::schemaDiversion ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderDiversion, sipsn___PbsDiversion, "Diversion" )
+SIPSN_DEFINE_NAME( Diversion, "Diversion" )
 
-static constexpr sipsn::List< SipsnHeaderDiversion > shape{
-    .items   = &SipsnHeaderDiversion::items,
-    .item    = sipsn___SkipDiversion,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderDiversion > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderDiversion, sipsnHeaderDiversion, SIPSN_HEADER_DIVERSION, sipsn___PbsDiversion, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderDiversion, sipsnHeaderDiversion, Diversions, Diversion, SipsnDiversion, diversion,
-                   sipsn___DiversionEncode )
+SIPSN_DEFINE_HEADER( Diversion, SIPSN_HEADER_DIVERSION, shape )
+SIPSN_DEFINE_LIST( Diversion, Diversions, Diversion, SipsnDiversion, diversion, sipsn___DiversionEncode )
 
 SipsnHeaderDiversion *sipsnHeaderDiversionCreate( void ) { return shape.Create(); }
 void                  sipsnHeaderDiversionClearDiversions( SipsnHeaderDiversion **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

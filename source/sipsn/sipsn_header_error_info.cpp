@@ -3,27 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderErrorInfo
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderErrorInfo::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "errorInfos", &SipsnHeaderErrorInfo::items, sipsn___SkipErrorInfo,
+                                           sipsn::schemaErrorInfo ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderErrorInfo, sipsn___PbsErrorInfo, "Error-Info" )
+SIPSN_DEFINE_NAME( ErrorInfo, "Error-Info" )
 
-static constexpr sipsn::List< SipsnHeaderErrorInfo > shape{
-    .items   = &SipsnHeaderErrorInfo::items,
-    .item    = sipsn___SkipErrorInfo,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderErrorInfo > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderErrorInfo, sipsnHeaderErrorInfo, SIPSN_HEADER_ERROR_INFO, sipsn___PbsErrorInfo, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderErrorInfo, sipsnHeaderErrorInfo, ErrorInfos, ErrorInfo, SipsnErrorInfo, errorInfo,
-                   sipsn___ErrorInfoEncode )
+SIPSN_DEFINE_HEADER( ErrorInfo, SIPSN_HEADER_ERROR_INFO, shape )
+SIPSN_DEFINE_LIST( ErrorInfo, ErrorInfos, ErrorInfo, SipsnErrorInfo, errorInfo, sipsn___ErrorInfoEncode )
 
 SipsnHeaderErrorInfo *sipsnHeaderErrorInfoCreate( void ) { return shape.Create(); }
 void                  sipsnHeaderErrorInfoClearErrorInfos( SipsnHeaderErrorInfo **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

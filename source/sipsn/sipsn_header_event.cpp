@@ -3,9 +3,8 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
-using sipsn::Cursor, sipsn::Span, sipsn::StringFrom;
+using sipsn::StringFrom;
 
 struct SipsnHeaderEvent
 {
@@ -14,32 +13,26 @@ struct SipsnHeaderEvent
     PbString           *id;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnHeaderEvent::eventType, &SipsnHeaderEvent::id, &SipsnHeaderEvent::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "eventType", &SipsnHeaderEvent::eventType, sipsn::rule::eventType ),
+            sipsn::TextParam( "id", &SipsnHeaderEvent::id, sipsn::rule::token ),
+            sipsn::OtherParams( &SipsnHeaderEvent::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderEvent, sipsn___PbsEvent, "Event" )
+SIPSN_DEFINE_NAME( Event, "Event" )
 
-static SipsnHeaderEvent *TryDecode( PbString *line );
-static PbString         *EncodeLine( SipsnHeaderEvent *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderEvent, sipsn::Params< SipsnHeaderEvent > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderEvent > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderEvent, sipsnHeaderEvent, SIPSN_HEADER_EVENT, sipsn___PbsEvent, shape )
-
-// Takes over the reference.
-static SipsnHeaderEvent *CreateOwning( PbString *eventType )
-{
-    SipsnHeaderEvent *hdr = pb::New< SipsnHeaderEvent >();
-    hdr->eventType        = eventType;
-    hdr->genericParams    = sipsnGenericParamsCreate();
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( Event, SIPSN_HEADER_EVENT, shape )
 
 SipsnHeaderEvent *sipsnHeaderEventCreate( PbString *eventType )
 {
     PB_ASSERT( sipsnEventTypeOk( eventType ) );
-    return CreateOwning( pb::Retain( eventType ) );
+    return sipsn::NewWith( &SipsnHeaderEvent::eventType, pb::Retain( eventType ) );
 }
 
 SipsnHeaderEvent *sipsnHeaderEventCreateCstr( const char *eventType, int64_t eventTypeLength )
@@ -82,32 +75,4 @@ SipsnGenericParams *sipsnHeaderEventGenericParams( SipsnHeaderEvent *hdr ) { ret
 void                sipsnHeaderEventSetGenericParams( SipsnHeaderEvent **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static bool TakeTypedParam( Cursor &in, SipsnHeaderEvent *hdr )
-{
-    return sipsn::TakeText( in, "id", sipsn___SkipToken, hdr->id );
-}
-
-static SipsnHeaderEvent *TryDecode( PbString *line )
-{
-    Cursor     in{ line->chs, line->length };
-    const Span eventType = in.Take( sipsn___SkipEventType );
-    if( !eventType ) return nullptr;
-
-    pb::Ref    hdr{ CreateOwning( eventType.ToString() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hdr.Get() ); };
-    return sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped ) ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderEvent *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Text( hdr->eventType );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "id", hdr->id );
-        params.Generic();
-    } );
 }

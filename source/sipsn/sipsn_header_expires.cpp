@@ -3,31 +3,30 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_internal.h"
 
 struct SipsnHeaderExpires
 {
     PbObj   obj;
     int64_t deltaSeconds;
 
-    using Members = pb::Members< &SipsnHeaderExpires::deltaSeconds >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "deltaSeconds", &SipsnHeaderExpires::deltaSeconds, sipsn::rule::deltaSeconds ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderExpires, sipsn___PbsExpires, "Expires" )
+SIPSN_DEFINE_NAME( Expires, "Expires" )
 
-static SipsnHeaderExpires *TryDecode( PbString *line );
-static PbString           *EncodeLine( SipsnHeaderExpires *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderExpires, sipsn::Number< SipsnHeaderExpires > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderExpires > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderExpires, sipsnHeaderExpires, SIPSN_HEADER_EXPIRES, sipsn___PbsExpires, shape )
+SIPSN_DEFINE_HEADER( Expires, SIPSN_HEADER_EXPIRES, shape )
 
 SipsnHeaderExpires *sipsnHeaderExpiresCreate( int64_t deltaSeconds )
 {
     PB_ASSERT( sipsnDeltaSecondsOk( deltaSeconds ) );
-    SipsnHeaderExpires *hdr = pb::New< SipsnHeaderExpires >();
-    hdr->deltaSeconds       = deltaSeconds;
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderExpires::deltaSeconds, deltaSeconds );
 }
 
 int64_t sipsnHeaderExpiresDeltaSeconds( SipsnHeaderExpires *hdr ) { return PB_GET( hdr, deltaSeconds ); }
@@ -35,11 +34,3 @@ void    sipsnHeaderExpiresSetDeltaSeconds( SipsnHeaderExpires **hdr, int64_t del
 {
     PB_SET( hdr, deltaSeconds, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
-
-static SipsnHeaderExpires *TryDecode( PbString *line )
-{
-    const int64_t deltaSeconds = sipsn___DeltaSecondsTryDecode( line->chs, line->length );
-    return sipsnDeltaSecondsOk( deltaSeconds ) ? sipsnHeaderExpiresCreate( deltaSeconds ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderExpires *hdr ) { return sipsn___DeltaSecondsEncode( hdr->deltaSeconds ); }

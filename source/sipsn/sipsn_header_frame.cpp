@@ -1,4 +1,4 @@
-// The header frame: the parts that are no templates.
+// The header frame: the parts that are not templates.
 #include "sipsn_header_frame.h"
 
 #include "sipsn_header_internal.h"
@@ -15,24 +15,37 @@ PbString *LinesToString( SipsnMessageHeader *owned )
     }
 }
 
-// All constants are canonical but that of User-to-User.
-PbString *FieldName( PbString *name )
-{
-    return name == sipsn___PbsUserToUser ? sipsnMessageHeaderNameNormalize( name ) : pb::Retain( name );
-}
-
-SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name, int64_t number )
-{
-    if( !MayHold( msg->fragment, number ) ) return nullptr;
-    if( name != sipsn___PbsUserToUser ) return PeekHeader( msg->fragment, name );
-    return PeekHeader( msg->fragment, pb::Ref{ FieldName( name ) }.Get() );
-}
-
 void CreateName( PbString *&constant, const char *text )
 {
     constant = nullptr;
     constant = pbStringCreateFromCstr( text, -1 );
     ShareHeaderName( constant );
+}
+
+// An item is what the header field takes for one; a value is then looked into. Where no item ends with a separator, the
+// value says what it would have taken: it may come farther than the item did.
+bool WatchItems( Span line, Production *item, Production *separator, const TextRule *rule, const TypeRecord *type,
+                 Watch &watch )
+{
+    WatchedCursor in{ line, { &watch } };
+    for( bool first = true; !in.AtEnd(); first = false ) {
+        if( !first && !in.Take( separator ) ) return false;
+        const Span rest = in.Rest();
+        if( rule ) {
+            if( !in.Take( item, rule->words ) ) return false;
+            continue;
+        }
+        const Span found  = Cursor{ rest }.Take( item );
+        Cursor     behind = Cursor{ rest };
+        behind.Take( item );
+        if( !found || ( !behind.AtEnd() && !behind.Sees( separator ) ) ) {
+            type->text.watch( rest, watch );
+            return false;
+        }
+        if( !type->text.watch( found, watch ) ) return false;
+        in = WatchedCursor{ behind.Rest(), { &watch } };
+    }
+    return true;
 }
 
 } // namespace sipsn

@@ -1,4 +1,4 @@
-// The header frame: what the 58 header types share beyond the object frame. C++ only; never installed.
+// The header frame: what the header types share beyond the object frame. C++ only; never installed.
 //
 //     struct SipsnHeaderVia { ... };                         // 1. members and table, as for every type
 //
@@ -9,13 +9,15 @@
 //     SIPSN_DEFINE_HEADER( ... )                             // 4. the functions of a header type
 //
 // The shapes are List (encoded values, and tokens that keep their order), Set (tokens, each once), WholeLine (one text)
-// and Single (whatever else one line holds). A shape has TryDecode( header ), and Encode( hdr, name ), which takes over
-// the reference of the field's name.
+// and LastLine (what a form reads: Number, Params and Address of sipsn_form.h, or one of the family's own). A shape has
+// TryDecode( header ), Encode( hdr, name ), which takes over the reference of the field's name, and WatchLine( line,
+// watch ), which tells why a line is refused.
 #pragma once
 
 #include "sipsn_header.h"
 #include "sipsn_header_names.h"
 #include "sipsn_message_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
 namespace sipsn {
@@ -30,11 +32,11 @@ inline PbString *PeekString( PbVector *vector, int64_t index )
 // The lines of a header field as one text: none, the line itself, or the vector's own text. Takes over the reference.
 PbString *LinesToString( SipsnMessageHeader *owned );
 
-// The field of a family in a message, without a reference of its own, or null: the family's constant and its number.
-SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *name, int64_t number );
-
-// The canonical form of a family's constant, a new reference.
-PbString *FieldName( PbString *name );
+// The field of a family in a message, without a reference of its own, or null.
+inline SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *canonicalName, int64_t number )
+{
+    return MayHold( msg->fragment, number ) ? PeekHeader( msg->fragment, canonicalName ) : nullptr;
+}
 
 // Whether a header field is that of a family.
 inline bool IsField( SipsnMessageHeader *header, PbString *name )
@@ -70,6 +72,11 @@ bool TryDecodeItems( SipsnMessageHeader *header, Production *item, Production *s
     return true;
 }
 
+// Tells why a line of items is refused: what the items or, where these have a type, their values want. False when it
+// is.
+bool WatchItems( Span line, Production *item, Production *separator, const TextRule *rule, const TypeRecord *type,
+                 Watch &watch );
+
 // ---- Shapes ----------------------------------------------------------------------------------------
 
 // What decoding a header field without lines gives. In a message it is not decoded at all.
@@ -95,8 +102,6 @@ struct ItemSeparator
 inline constexpr ItemSeparator comma{ sipsn___SkipComma, ',' };
 inline constexpr ItemSeparator semicolon{ sipsn___SkipSemi, ';' };
 
-inline PbString *AsWritten( const PbChar *chs, int64_t length ) { return pbStringCreateFromCharsCopy( chs, length ); }
-
 // A header field with all items on one line; with no line when there are none. `itemAt( index )` gives a borrowed text.
 template< class ItemAt >
 SipsnMessageHeader *JoinedField( PbString *name, int64_t count, PbChar separator, ItemAt itemAt )
@@ -110,125 +115,166 @@ SipsnMessageHeader *JoinedField( PbString *name, int64_t count, PbChar separator
     return CreateHeader( name, out.ToString() );
 }
 
+// What a table says of a header type's items: its last row.
+template< class Header >
+inline constexpr auto itemsRow = std::get< pb::membersOf< Header >.count - 1 >( pb::membersOf< Header >.rows );
+
 // A vector of texts: encoded values as they were written, or tokens.
 template< class Header > struct List
 {
-    PbVector *Header::*items;
-    Production        *item;
-    NoLines            noLines;
-    Lines              lines                                   = Lines::onePerItem;
-    PbString *( *stored )( const PbChar *chs, int64_t length ) = AsWritten;
+    NoLines noLines;
+    Lines   lines = Lines::onePerItem;
 
-    Header *Create() const
-    {
-        Header *hdr = pb::New< Header >();
-        hdr->*items = pbVectorCreate();
-        return hdr;
-    }
+    Header *Create() const { return New< Header >(); }
 
     Header *TryDecode( SipsnMessageHeader *header ) const
     {
+        constexpr auto row = itemsRow< Header >;
         if( noLines == NoLines::givesNull && LineCount( header ) == 0 ) return nullptr;
-        pb::Ref hdr{ Create() };
-        return TryDecodeItems( header, item, sipsn___SkipComma, Keeper( hdr.Get() ) ) ? hdr.Detach() : nullptr;
-    }
-
-    // What keeps the items of TryDecodeItems.
-    auto Keeper( Header *hdr ) const
-    {
-        return [ this, hdr ]( Span found ) {
-            pb___VectorAppendOwned( &( hdr->*items ), pb::AsObj( stored( found.chs, found.length ) ) );
+        pb::Ref    hdr{ Create() };
+        const auto keep = [ & ]( Span found ) {
+            pb___VectorAppendOwned( &( ( *hdr.Get() ).*row.member ),
+                                    pb::AsObj( row.stored( found.chs, found.length ) ) );
             return true;
         };
+        return TryDecodeItems( header, row.item, sipsn___SkipComma, keep ) ? hdr.Detach() : nullptr;
     }
 
     // The vector of one line per item is the header field's as it is.
     SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
     {
-        if( lines == Lines::onePerItem ) return CreateHeader( name, pb::Retain( hdr->*items ) );
-        return JoinedField( name, pbVectorLength( hdr->*items ), comma.written,
-                            [ & ]( int64_t at ) { return PeekString( hdr->*items, at ); } );
+        PbVector *items = hdr->*itemsRow< Header >.member;
+        if( lines == Lines::onePerItem ) return CreateHeader( name, pb::Retain( items ) );
+        return JoinedField( name, pbVectorLength( items ), comma.written,
+                            [ & ]( int64_t at ) { return PeekString( items, at ); } );
+    }
+
+    bool WatchLine( Span line, Watch &watch ) const
+    {
+        constexpr auto row = itemsRow< Header >;
+        return WatchItems( line, row.item, sipsn___SkipComma, row.rule, row.type, watch );
     }
 };
 
 // A dictionary from each token to itself: each is held once, in the order of the dictionary.
 template< class Header > struct Set
 {
-    PbDict *Header::*items;
-    Production      *item;
-    ItemSeparator    separator                                 = comma;
-    PbString *( *stored )( const PbChar *chs, int64_t length ) = AsWritten;
+    ItemSeparator separator = comma;
 
-    Header *Create() const
-    {
-        Header *hdr = pb::New< Header >();
-        hdr->*items = pb___DictCreateWithCapacity( 8 ); // as many as most lists of methods or extensions have
-        return hdr;
-    }
+    Header *Create() const { return New< Header >(); }
 
     Header *TryDecode( SipsnMessageHeader *header ) const
     {
+        constexpr auto row = itemsRow< Header >;
         if( LineCount( header ) == 0 ) return nullptr;
         pb::Ref    hdr{ Create() };
         const auto keep = [ & ]( Span found ) {
-            PbString *token = stored( found.chs, found.length );
-            pb___DictSetOwned( &( hdr.Get()->*items ), token, pb::AsObj( pb::Retain( token ) ) );
+            PbString *token = row.rule->decoded( found.chs, found.length );
+            pb___DictSetOwned( &( ( *hdr.Get() ).*row.member ), token, pb::AsObj( pb::Retain( token ) ) );
             return true;
         };
-        return TryDecodeItems( header, item, separator.read, keep ) ? hdr.Detach() : nullptr;
+        return TryDecodeItems( header, row.rule->production, separator.read, keep ) ? hdr.Detach() : nullptr;
     }
 
     SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
     {
-        return JoinedField( name, pbDictLength( hdr->*items ), separator.written,
-                            [ & ]( int64_t at ) { return pb___DictPeekKeyAt( hdr->*items, at ); } );
+        PbDict *items = hdr->*itemsRow< Header >.member;
+        return JoinedField( name, pbDictLength( items ), separator.written,
+                            [ & ]( int64_t at ) { return pb___DictPeekKeyAt( items, at ); } );
+    }
+
+    bool WatchLine( Span line, Watch &watch ) const
+    {
+        constexpr auto row = itemsRow< Header >;
+        return WatchItems( line, row.rule->production, separator.read, row.rule, nullptr, watch );
     }
 };
 
-// What the last line holds. `tryDecode` gets that line and gives the header or null; `encode` gives the line, a new
-// reference.
-template< class Header > struct Single
+// What a form reads from the last line; the lines before it do not count.
+template< class Header, class Form > struct LastLine
 {
-    Header *( *tryDecode )( PbString *line );
-    PbString *( *encode )( Header *hdr );
+    Form form{};
 
     Header *TryDecode( SipsnMessageHeader *header ) const
     {
         const int64_t count = LineCount( header );
-        return count > 0 ? tryDecode( PeekLine( header, count - 1 ) ) : nullptr;
+        if( count == 0 ) return nullptr;
+        PbString *line = PeekLine( header, count - 1 );
+        Cursor    in{ line->chs, line->length };
+        return form.TryDecode( in );
     }
 
-    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const { return CreateHeader( name, encode( hdr ) ); }
+    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
+    {
+        return CreateHeader( name, TextOf( [ & ]( TextWriter &out ) { form.Write( out, *hdr ); } ) );
+    }
+
+    bool WatchLine( Span line, Watch &watch ) const { return WatchForm( form, line, watch ); }
 };
 
-// The last line as it is, or in its normal form: one text that satisfies `ok` and is stored as `normalized` gives it, a
-// new reference.
+// The last line as it is, or in its normal form: one text, the first member of the table.
 template< class Header > struct WholeLine
 {
-    PbString *Header::*text;
-    bool ( *ok )( PbString *line );
-    PbString *( *normalized )( PbString *line ) = pb::Retain< PbString >;
-
     // Takes over the reference.
-    Header *Create( PbString *owned ) const
-    {
-        Header *hdr = pb::New< Header >();
-        hdr->*text  = owned;
-        return hdr;
-    }
+    Header *Create( PbString *owned ) const { return NewWith( First().member, owned ); }
 
     Header *TryDecode( SipsnMessageHeader *header ) const
     {
         const int64_t count = LineCount( header );
         PbString     *line  = count > 0 ? PeekLine( header, count - 1 ) : nullptr;
-        return line && ok( line ) ? Create( normalized( line ) ) : nullptr;
+        return line && First().rule->ok( line ) ? Create( First().rule->normal( line ) ) : nullptr;
     }
 
     SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
     {
-        return CreateHeader( name, pb::Retain( hdr->*text ) );
+        return CreateHeader( name, pb::Retain( hdr->*First().member ) );
     }
+
+    bool WatchLine( Span line, Watch &watch ) const
+    {
+        WatchedCursor in{ line, { &watch } };
+        pb::Ref       text{ line.ToString() };
+        if( First().rule->ok( text.Get() ) ) return true;
+        in.Take( First().rule->production, First().rule->words );
+        return in.AtEnd() && in.Refuse( line, First().rule->words );
+    }
+
+private:
+    static constexpr auto First() { return std::get< 0 >( pb::membersOf< Header >.rows ); }
 };
+
+// ---- Records ---------------------------------------------------------------------------------------
+
+// The shape of a header type and the type of its values, which the last row of its table tells.
+template< class Header > constexpr const TypeRecord *ItemType()
+{
+    if constexpr( requires { itemsRow< Header >.type; } )
+        return itemsRow< Header >.type;
+    else
+        return nullptr;
+}
+template< class Header > constexpr int64_t ShapeNumber()
+{
+    if( ItemType< Header >() ) return SIPSN_SCHEMA_SHAPE_LIST;
+    switch( itemsRow< Header >.kind ) {
+    case SIPSN_SCHEMA_KIND_LIST: return SIPSN_SCHEMA_SHAPE_TOKEN_LIST;
+    case SIPSN_SCHEMA_KIND_SET: return SIPSN_SCHEMA_SHAPE_TOKEN_SET;
+    default: return SIPSN_SCHEMA_SHAPE_SINGLE;
+    }
+}
+
+// What the schema calls of a header type: its shape, and its own functions.
+template< const auto &shape, auto tryDecode, auto encode >
+constexpr ShapeRecord MakeShapeRecord( const TypeRecord &type )
+{
+    using Header = std::remove_pointer_t< decltype( tryDecode( nullptr ) ) >;
+    return { .type      = &type,
+             .tryDecode = []( SipsnMessageHeader *header ) { return pb::AsObj( tryDecode( header ) ); },
+             .encode    = []( PbObj *hdr ) { return encode( reinterpret_cast< Header    *>( hdr ) ); },
+             .watchLine = []( Span line, Watch &watch ) { return shape.WatchLine( line, watch ); },
+             .shape     = ShapeNumber< Header >(),
+             .itemType  = ItemType< Header >() };
+}
 
 // ---- Values of a list ------------------------------------------------------------------------------
 
@@ -244,118 +290,131 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 
 // ---- The functions of a header type ----------------------------------------------------------------
 
-// Defines a family's name constant and the functions that keep it. SIPSN_DEFINE_NAME( sipsn___HeaderVia,
-// sipsn___PbsVia, "Via" ) defines
+// Defines a family's name constant and the functions that keep it. SIPSN_DEFINE_NAME( Via, "Via" ) defines
 //
 //     sipsn___PbsVia, sipsn___HeaderViaStartup, sipsn___HeaderViaShutdown
-#define SIPSN_DEFINE_NAME( prefix, constant, text )                                                                    \
-    SIPSN_DEFINE_NAME_CONSTANT( constant, text )                                                                       \
-    void prefix##Startup( void ) { sipsn::CreateName( constant, text ); }                                              \
-    void prefix##Shutdown( void ) { sipsn::DropName( constant ); }
+#define SIPSN_DEFINE_NAME( Family, text )                                                                              \
+    SIPSN_DEFINE_NAME_CONSTANT( Family, text )                                                                         \
+    void sipsn___Header##Family##Startup( void ) { sipsn::CreateName( sipsn___Pbs##Family, text ); }                   \
+    void sipsn___Header##Family##Shutdown( void ) { sipsn::DropName( sipsn___Pbs##Family ); }
 
 // The constant alone, for a family that keeps more.
-#define SIPSN_DEFINE_NAME_CONSTANT( constant, text )                                                                   \
-    PbString                *constant;                                                                                 \
+#define SIPSN_DEFINE_NAME_CONSTANT( Family, text )                                                                     \
+    PbString                *sipsn___Pbs##Family;                                                                      \
     static constexpr int64_t nameNumber = sipsn::HeaderNumber( text );                                                 \
-    static_assert( nameNumber >= 0, "not a known name" );
+    static_assert( nameNumber >= 0, "not a known name" );                                                              \
+                                                                                                                       \
+    /* The name as decoded header fields have it. */                                                                   \
+    static PbString *CanonicalName()                                                                                   \
+    {                                                                                                                  \
+        constexpr bool isCanonical = sipsn::headerNames[ nameNumber ] == text;                                         \
+        return isCanonical ? sipsn___Pbs##Family : sipsn::HeaderNameAt( nameNumber );                                  \
+    }
 
-// Defines what SIPSN_DECLARE_HEADER declares, behind SIPSN_DEFINE_NAME. SIPSN_DEFINE_HEADER( SipsnHeaderVia,
-// sipsnHeaderVia, SIPSN_HEADER_VIA, sipsn___PbsVia, shape ) defines, beyond SIPSN_DEFINE_TYPE,
+// Defines the functions of a header type behind SIPSN_DEFINE_NAME. SIPSN_DEFINE_HEADER( Via, SIPSN_HEADER_VIA, shape )
+// defines SIPSN_DEFINE_TYPE for SipsnHeaderVia, its records in the schema, and
 //
 //     sipsnHeaderViaTryDecode, ...Encode, ...TryDecodeFromMessage, ...EncodeToMessage, ...PresentInMessage,
 //     ...RemoveFromMessage, ...Store, ...TryRestore
-#define SIPSN_DEFINE_HEADER( Type, prefix, SORT, name, shape )                                                         \
-    static PbString *LinesText( Type *hdr )                                                                            \
+#define SIPSN_DEFINE_HEADER( Family, SORT, shape )                                                                     \
+    static PbString *LinesText( SipsnHeader##Family *hdr )                                                             \
     {                                                                                                                  \
-        return sipsn::LinesToString( shape.Encode( hdr, pb::Retain( name ) ) );                                        \
+        return sipsn::LinesToString( shape.Encode( hdr, pb::Retain( sipsn___Pbs##Family ) ) );                         \
     }                                                                                                                  \
-    SIPSN_DEFINE_TYPE( Type, prefix, SORT, hdr, hdr, LinesText )                                                       \
+    SIPSN_DEFINE_TYPE( SipsnHeader##Family, sipsnHeader##Family, SORT, hdr, hdr, LinesText )                           \
                                                                                                                        \
-    Type *prefix##TryDecode( SipsnMessageHeader *header )                                                              \
+    constexpr sipsn::TypeRecord sipsn::schemaHeader##Family =                                                          \
+        sipsn::MakeTypeRecord< SipsnHeader##Family >( "SipsnHeader" #Family );                                         \
+    constexpr sipsn::ShapeRecord sipsn::shapeOfHeader##Family =                                                        \
+        sipsn::MakeShapeRecord< shape, sipsnHeader##Family##TryDecode, sipsnHeader##Family##Encode >(                  \
+            sipsn::schemaHeader##Family );                                                                             \
+                                                                                                                       \
+    SipsnHeader##Family *sipsnHeader##Family##TryDecode( SipsnMessageHeader *header )                                  \
     {                                                                                                                  \
-        PB_ABORT_UNLESS( nullptr, "sipsnMessageHeaderNameEquals( header, " #name " )", sipsn::IsField( header, name ) );                                                             \
+        PB_ABORT_UNLESS( nullptr, "sipsnMessageHeaderNameEquals( header, sipsn___Pbs" #Family " )",                    \
+                         sipsn::IsField( header, sipsn___Pbs##Family ) );                                              \
         return shape.TryDecode( header );                                                                              \
     }                                                                                                                  \
-    SipsnMessageHeader *prefix##Encode( Type *hdr )                                                                    \
+    SipsnMessageHeader *sipsnHeader##Family##Encode( SipsnHeader##Family *hdr )                                        \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
-        return shape.Encode( hdr, sipsn::FieldName( name ) );                                                          \
+        return shape.Encode( hdr, pb::Retain( CanonicalName() ) );                                                     \
     }                                                                                                                  \
-    Type *prefix##TryDecodeFromMessage( SipsnMessage *msg )                                                            \
+    SipsnHeader##Family *sipsnHeader##Family##TryDecodeFromMessage( SipsnMessage *msg )                                \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        SipsnMessageHeader *header = sipsn::PeekField( msg, name, nameNumber );                                        \
+        SipsnMessageHeader *header = sipsn::PeekField( msg, CanonicalName(), nameNumber );                             \
         return header && sipsn::LineCount( header ) > 0 ? shape.TryDecode( header ) : nullptr;                         \
     }                                                                                                                  \
-    void prefix##EncodeToMessage( Type *hdr, SipsnMessage **msg )                                                      \
+    void sipsnHeader##Family##EncodeToMessage( SipsnHeader##Family *hdr, SipsnMessage **msg )                          \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         PB_ASSERT_SLOT( msg );                                                                                         \
-        sipsnMessageSetHeader( msg, pb::Ref{ prefix##Encode( hdr ) }.Get() );                                          \
+        sipsnMessageSetHeader( msg, pb::Ref{ sipsnHeader##Family##Encode( hdr ) }.Get() );                             \
     }                                                                                                                  \
-    bool prefix##PresentInMessage( SipsnMessage *msg )                                                                 \
+    bool sipsnHeader##Family##PresentInMessage( SipsnMessage *msg )                                                    \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        return sipsn::PeekField( msg, name, nameNumber ) != nullptr;                                                   \
+        return sipsn::PeekField( msg, CanonicalName(), nameNumber ) != nullptr;                                        \
     }                                                                                                                  \
-    void prefix##RemoveFromMessage( SipsnMessage **msg )                                                               \
+    void sipsnHeader##Family##RemoveFromMessage( SipsnMessage **msg )                                                  \
     {                                                                                                                  \
         PB_ASSERT_SLOT( msg );                                                                                         \
-        sipsnMessageDelHeader( msg, name );                                                                            \
+        sipsnMessageDelHeader( msg, sipsn___Pbs##Family );                                                             \
     }                                                                                                                  \
-    PbStore *prefix##Store( Type *hdr )                                                                                \
+    PbStore *sipsnHeader##Family##Store( SipsnHeader##Family *hdr )                                                    \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
-        return sipsnMessageHeaderStoreLines( pb::Ref{ prefix##Encode( hdr ) }.Get() );                                 \
+        return sipsnMessageHeaderStoreLines( pb::Ref{ sipsnHeader##Family##Encode( hdr ) }.Get() );                    \
     }                                                                                                                  \
-    Type *prefix##TryRestore( PbStore *store )                                                                         \
+    SipsnHeader##Family *sipsnHeader##Family##TryRestore( PbStore *store )                                             \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "store", store );                                                                    \
-        return shape.TryDecode( pb::Ref{ sipsnMessageHeaderRestoreLines( name, store ) }.Get() );                      \
+        return shape.TryDecode( pb::Ref{ sipsnMessageHeaderRestoreLines( sipsn___Pbs##Family, store ) }.Get() );       \
     }
 
 // ---- The functions of a list -----------------------------------------------------------------------
 
 // Defines what SIPSN_DECLARE_LIST declares; the list is the member `items`, and `stored( value )` gives the text that
-// it keeps for a value, a new reference. SIPSN_DEFINE_LIST( SipsnHeaderVia, sipsnHeaderVia, Vias, Via, SipsnVia, via,
-// sipsn___ViaEncode ) defines
+// it keeps for a value, a new reference. SIPSN_DEFINE_LIST( Via, Vias, Via, SipsnVia, via, sipsn___ViaEncode )
+// defines
 //
 //     sipsnHeaderViaViasLength, ...AppendVia, ...PrependVia, ...InsertVia, ...SetViaAt, ...DelViaAt
-#define SIPSN_DEFINE_LIST( Type, prefix, Items, Item, Value, value, stored )                                           \
-    int64_t prefix##Items##Length( Type *hdr )                                                                         \
+#define SIPSN_DEFINE_LIST( Family, Items, Item, Value, value, stored )                                                 \
+    int64_t sipsnHeader##Family##Items##Length( SipsnHeader##Family *hdr )                                             \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         return pbVectorLength( hdr->items );                                                                           \
     }                                                                                                                  \
-    void prefix##Append##Item( Type **hdr, Value *value )                                                              \
+    void sipsnHeader##Family##Append##Item( SipsnHeader##Family **hdr, Value *value )                                  \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref text{ sipsn::CheckedLine( stored( value ) ) };                                                         \
         PB_UNSHARE( hdr );                                                                                             \
         pbVectorAppendString( &( *hdr )->items, text.Get() );                                                          \
     }                                                                                                                  \
-    void prefix##Prepend##Item( Type **hdr, Value *value )                                                             \
+    void sipsnHeader##Family##Prepend##Item( SipsnHeader##Family **hdr, Value *value )                                 \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref text{ sipsn::CheckedLine( stored( value ) ) };                                                         \
         PB_UNSHARE( hdr );                                                                                             \
         pbVectorPrependString( &( *hdr )->items, text.Get() );                                                         \
     }                                                                                                                  \
-    void prefix##Insert##Item( Type **hdr, int64_t index, Value *value )                                               \
+    void sipsnHeader##Family##Insert##Item( SipsnHeader##Family **hdr, int64_t index, Value *value )                   \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref text{ sipsn::CheckedLine( stored( value ) ) };                                                         \
         PB_UNSHARE( hdr );                                                                                             \
         pbVectorInsertString( &( *hdr )->items, index, text.Get() );                                                   \
     }                                                                                                                  \
-    void prefix##Set##Item##At( Type **hdr, int64_t index, Value *value )                                              \
+    void sipsnHeader##Family##Set##Item##At( SipsnHeader##Family **hdr, int64_t index, Value *value )                  \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref text{ sipsn::CheckedLine( stored( value ) ) };                                                         \
         PB_UNSHARE( hdr );                                                                                             \
         pbVectorSetStringAt( &( *hdr )->items, index, text.Get() );                                                    \
     }                                                                                                                  \
-    void prefix##Del##Item##At( Type **hdr, int64_t index )                                                            \
+    void sipsnHeader##Family##Del##Item##At( SipsnHeader##Family **hdr, int64_t index )                                \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         PB_UNSHARE( hdr );                                                                                             \
@@ -371,57 +430,56 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 // ---- The functions of a token set ------------------------------------------------------------------
 
 // Defines what SIPSN_DECLARE_SET declares; the set is the member `items`, and `key( token )` asserts the token and
-// gives the form that the set keeps, a new reference. SIPSN_DEFINE_SET( SipsnHeaderAllow, sipsnHeaderAllow, Methods,
-// Method, method, Key ) defines
+// gives the form that the set keeps, a new reference. SIPSN_DEFINE_SET( Allow, Methods, Method, method, Key ) defines
 //
 //     sipsnHeaderAllowMethodsLength, ...MethodAt, ...MethodsVector, ...SetMethodsVector, ...HasMethod, ...SetMethod,
 //     ...DelMethod, ...ClearMethods
-#define SIPSN_DEFINE_SET( Type, prefix, Items, Item, token, key )                                                      \
-    int64_t prefix##Items##Length( Type *hdr )                                                                         \
+#define SIPSN_DEFINE_SET( Family, Items, Item, token, key )                                                            \
+    int64_t sipsnHeader##Family##Items##Length( SipsnHeader##Family *hdr )                                             \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         return pbDictLength( hdr->items );                                                                             \
     }                                                                                                                  \
-    PbString *prefix##Item##At( Type *hdr, int64_t index )                                                             \
+    PbString *sipsnHeader##Family##Item##At( SipsnHeader##Family *hdr, int64_t index )                                 \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         return pbDictKeyAt( hdr->items, index );                                                                       \
     }                                                                                                                  \
-    PbVector *prefix##Items##Vector( Type *hdr )                                                                       \
+    PbVector *sipsnHeader##Family##Items##Vector( SipsnHeader##Family *hdr )                                           \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         return pbDictKeysVector( hdr->items );                                                                         \
     }                                                                                                                  \
-    bool prefix##Has##Item( Type *hdr, PbString *token )                                                               \
+    bool sipsnHeader##Family##Has##Item( SipsnHeader##Family *hdr, PbString *token )                                   \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
         return pbDictHasStringKey( hdr->items, pb::Ref{ key( token ) }.Get() );                                        \
     }                                                                                                                  \
-    void prefix##Set##Item( Type **hdr, PbString *token )                                                              \
+    void sipsnHeader##Family##Set##Item( SipsnHeader##Family **hdr, PbString *token )                                  \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref stored{ key( token ) };                                                                                \
         PB_UNSHARE( hdr );                                                                                             \
         pbDictSetStringKey( &( *hdr )->items, stored.Get(), pbStringObj( stored.Get() ) );                             \
     }                                                                                                                  \
-    void prefix##Del##Item( Type **hdr, PbString *token )                                                              \
+    void sipsnHeader##Family##Del##Item( SipsnHeader##Family **hdr, PbString *token )                                  \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         pb::Ref stored{ key( token ) };                                                                                \
         PB_UNSHARE( hdr );                                                                                             \
         pbDictDelStringKey( &( *hdr )->items, stored.Get() );                                                          \
     }                                                                                                                  \
-    void prefix##Clear##Items( Type **hdr )                                                                            \
+    void sipsnHeader##Family##Clear##Items( SipsnHeader##Family **hdr )                                                \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         PB_UNSHARE( hdr );                                                                                             \
         pbDictClear( &( *hdr )->items );                                                                               \
     }                                                                                                                  \
-    void prefix##Set##Items##Vector( Type **hdr, PbVector *vec )                                                       \
+    void sipsnHeader##Family##Set##Items##Vector( SipsnHeader##Family **hdr, PbVector *vec )                           \
     {                                                                                                                  \
         PB_ASSERT_SLOT( hdr );                                                                                         \
         PB_ABORT_UNLESS( nullptr, "vec", vec );                                                                        \
-        prefix##Clear##Items( hdr );                                                                                   \
+        sipsnHeader##Family##Clear##Items( hdr );                                                                      \
         for( int64_t at = 0, length = pbVectorLength( vec ); at < length; ++at )                                       \
-            prefix##Set##Item( hdr, pb::Ref{ pbObjToString( pb___VectorPeek( vec, at ) ) }.Get() );                    \
+            sipsnHeader##Family##Set##Item( hdr, pb::Ref{ pbObjToString( pb___VectorPeek( vec, at ) ) }.Get() );       \
     }

@@ -1,45 +1,25 @@
 // SipsnHeaderFrom: the From header field, RFC 3261 section 20.20, with the epid of some endpoints.
 #include "sipsn_header_from.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_dialog_party.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_header_to.h"
 
-struct SipsnHeaderFrom
-{
-    PbObj               obj;
-    PbString           *iri;
-    PbString           *displayName;
-    PbString           *tag;
-    PbString           *epid;
-    SipsnGenericParams *genericParams;
+SIPSN_DEFINE_NAME( From, "From" )
 
-    using Members = pb::Members< &SipsnHeaderFrom::iri, &SipsnHeaderFrom::displayName, &SipsnHeaderFrom::tag,
-                                 &SipsnHeaderFrom::epid, &SipsnHeaderFrom::genericParams >;
-};
+static constexpr sipsn::LastLine< SipsnHeaderFrom, sipsn::Address< SipsnHeaderFrom > > shape{};
 
-SIPSN_DEFINE_NAME( sipsn___HeaderFrom, sipsn___PbsFrom, "From" )
-
-static constexpr auto shape = sipsn::dialogParty< SipsnHeaderFrom >;
-
-SIPSN_DEFINE_HEADER( SipsnHeaderFrom, sipsnHeaderFrom, SIPSN_HEADER_FROM, sipsn___PbsFrom, shape )
+SIPSN_DEFINE_HEADER( From, SIPSN_HEADER_FROM, shape )
 
 SipsnHeaderFrom *sipsnHeaderFromCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith< SipsnHeaderFrom >( &SipsnHeaderFrom::iri, pb::Retain( iri ) );
 }
 
 SipsnHeaderFrom *sipsnHeaderFromCreateFromHeaderTo( SipsnHeaderTo *hdrTo )
 {
     PB_ASSERT( hdrTo );
-    SipsnHeaderFrom *hdr = pb::New< SipsnHeaderFrom >();
-    hdr->iri             = sipsnHeaderToIri( hdrTo );
-    hdr->displayName     = sipsnHeaderToDisplayName( hdrTo );
-    hdr->tag             = sipsnHeaderToTag( hdrTo );
-    hdr->epid            = sipsnHeaderToEpid( hdrTo );
-    hdr->genericParams   = sipsnHeaderToGenericParams( hdrTo );
-    return hdr;
+    return sipsn::Turned< SipsnHeaderFrom >( hdrTo );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

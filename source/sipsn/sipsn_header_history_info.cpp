@@ -3,28 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderHistoryInfo
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderHistoryInfo::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "historyInfos", &SipsnHeaderHistoryInfo::items, sipsn___SkipHistoryInfo,
+                                           sipsn::schemaHistoryInfo ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderHistoryInfo, sipsn___PbsHistoryInfo, "History-Info" )
+SIPSN_DEFINE_NAME( HistoryInfo, "History-Info" )
 
-static constexpr sipsn::List< SipsnHeaderHistoryInfo > shape{
-    .items   = &SipsnHeaderHistoryInfo::items,
-    .item    = sipsn___SkipHistoryInfo,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderHistoryInfo > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderHistoryInfo, sipsnHeaderHistoryInfo, SIPSN_HEADER_HISTORY_INFO, sipsn___PbsHistoryInfo,
-                     shape )
-SIPSN_DEFINE_LIST( SipsnHeaderHistoryInfo, sipsnHeaderHistoryInfo, HistoryInfos, HistoryInfo, SipsnHistoryInfo,
-                   historyInfo, sipsn___HistoryInfoEncode )
+SIPSN_DEFINE_HEADER( HistoryInfo, SIPSN_HEADER_HISTORY_INFO, shape )
+SIPSN_DEFINE_LIST( HistoryInfo, HistoryInfos, HistoryInfo, SipsnHistoryInfo, historyInfo, sipsn___HistoryInfoEncode )
 
 SipsnHeaderHistoryInfo *sipsnHeaderHistoryInfoCreate( void ) { return shape.Create(); }
 void sipsnHeaderHistoryInfoClearHistoryInfos( SipsnHeaderHistoryInfo **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,30 +3,29 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderInReplyTo
 {
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderInReplyTo::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "callIds", &SipsnHeaderInReplyTo::items, sipsn::rule::callId ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderInReplyTo, sipsn___PbsInReplyTo, "In-Reply-To" )
+SIPSN_DEFINE_NAME( InReplyTo, "In-Reply-To" )
 
-static constexpr sipsn::Set< SipsnHeaderInReplyTo > shape{
-    .items = &SipsnHeaderInReplyTo::items,
-    .item  = sipsn___SkipCallId,
-};
+static constexpr sipsn::Set< SipsnHeaderInReplyTo > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderInReplyTo, sipsnHeaderInReplyTo, SIPSN_HEADER_IN_REPLY_TO, sipsn___PbsInReplyTo, shape )
+SIPSN_DEFINE_HEADER( InReplyTo, SIPSN_HEADER_IN_REPLY_TO, shape )
 
 static PbString *Key( PbString *callId )
 {
     PB_ASSERT( sipsnCallIdOk( callId ) );
     return pb::Retain( callId );
 }
-SIPSN_DEFINE_SET( SipsnHeaderInReplyTo, sipsnHeaderInReplyTo, CallIds, CallId, callId, Key )
+SIPSN_DEFINE_SET( InReplyTo, CallIds, CallId, callId, Key )
 
 SipsnHeaderInReplyTo *sipsnHeaderInReplyToCreate( void ) { return shape.Create(); }

@@ -4,30 +4,40 @@
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
+namespace sipsn::rule {
+
+static constexpr IntRule maxForwards{ .words      = "a number of hops",
+                                      .ok         = sipsnMaxForwardsOk,
+                                      .lowest     = 0,
+                                      .highest    = 255,
+                                      .production = sipsn___SkipDigits,
+                                      .decoded    = DecimalFromChars };
+
+} // namespace sipsn::rule
+
 struct SipsnHeaderMaxForwards
 {
     PbObj   obj;
     int64_t maxForwards;
 
-    using Members = pb::Members< &SipsnHeaderMaxForwards::maxForwards >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "maxForwards", &SipsnHeaderMaxForwards::maxForwards, sipsn::rule::maxForwards ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderMaxForwards, sipsn___PbsMaxForwards, "Max-Forwards" )
+SIPSN_DEFINE_NAME( MaxForwards, "Max-Forwards" )
 
-static SipsnHeaderMaxForwards *TryDecode( PbString *line );
-static PbString               *EncodeLine( SipsnHeaderMaxForwards *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderMaxForwards, sipsn::Number< SipsnHeaderMaxForwards > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderMaxForwards > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderMaxForwards, sipsnHeaderMaxForwards, SIPSN_HEADER_MAX_FORWARDS, sipsn___PbsMaxForwards,
-                     shape )
+SIPSN_DEFINE_HEADER( MaxForwards, SIPSN_HEADER_MAX_FORWARDS, shape )
 
 SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsCreate( int64_t maxForwards )
 {
     PB_ASSERT( sipsnMaxForwardsOk( maxForwards ) );
-    SipsnHeaderMaxForwards *hdr = pb::New< SipsnHeaderMaxForwards >();
-    hdr->maxForwards            = maxForwards;
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderMaxForwards::maxForwards, maxForwards );
 }
 
 int64_t sipsnHeaderMaxForwardsMaxForwards( SipsnHeaderMaxForwards *hdr ) { return PB_GET( hdr, maxForwards ); }
@@ -35,13 +45,3 @@ void    sipsnHeaderMaxForwardsSetMaxForwards( SipsnHeaderMaxForwards **hdr, int6
 {
     PB_SET( hdr, maxForwards, sipsnMaxForwardsOk( maxForwards ), maxForwards );
 }
-
-static SipsnHeaderMaxForwards *TryDecode( PbString *line )
-{
-    int64_t maxForwards = -1;
-    int64_t charsRead   = 0;
-    if( !pbStringScanInt( line, 0, -1, 10, &maxForwards, &charsRead ) || charsRead != line->length ) return nullptr;
-    return sipsnMaxForwardsOk( maxForwards ) ? sipsnHeaderMaxForwardsCreate( maxForwards ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderMaxForwards *hdr ) { return pbFormatEncodeInt( hdr->maxForwards, 10, 0, 0 ); }

@@ -3,32 +3,30 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_internal.h"
 
 struct SipsnHeaderMinExpires
 {
     PbObj   obj;
     int64_t deltaSeconds;
 
-    using Members = pb::Members< &SipsnHeaderMinExpires::deltaSeconds >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "deltaSeconds", &SipsnHeaderMinExpires::deltaSeconds, sipsn::rule::deltaSeconds ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderMinExpires, sipsn___PbsMinExpires, "Min-Expires" )
+SIPSN_DEFINE_NAME( MinExpires, "Min-Expires" )
 
-static SipsnHeaderMinExpires *TryDecode( PbString *line );
-static PbString              *EncodeLine( SipsnHeaderMinExpires *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderMinExpires, sipsn::Number< SipsnHeaderMinExpires > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderMinExpires > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderMinExpires, sipsnHeaderMinExpires, SIPSN_HEADER_MIN_EXPIRES, sipsn___PbsMinExpires,
-                     shape )
+SIPSN_DEFINE_HEADER( MinExpires, SIPSN_HEADER_MIN_EXPIRES, shape )
 
 SipsnHeaderMinExpires *sipsnHeaderMinExpiresCreate( int64_t deltaSeconds )
 {
     PB_ASSERT( sipsnDeltaSecondsOk( deltaSeconds ) );
-    SipsnHeaderMinExpires *hdr = pb::New< SipsnHeaderMinExpires >();
-    hdr->deltaSeconds          = deltaSeconds;
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderMinExpires::deltaSeconds, deltaSeconds );
 }
 
 int64_t sipsnHeaderMinExpiresDeltaSeconds( SipsnHeaderMinExpires *hdr ) { return PB_GET( hdr, deltaSeconds ); }
@@ -36,11 +34,3 @@ void    sipsnHeaderMinExpiresSetDeltaSeconds( SipsnHeaderMinExpires **hdr, int64
 {
     PB_SET( hdr, deltaSeconds, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
-
-static SipsnHeaderMinExpires *TryDecode( PbString *line )
-{
-    const int64_t deltaSeconds = sipsn___DeltaSecondsTryDecode( line->chs, line->length );
-    return sipsnDeltaSecondsOk( deltaSeconds ) ? sipsnHeaderMinExpiresCreate( deltaSeconds ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderMinExpires *hdr ) { return sipsn___DeltaSecondsEncode( hdr->deltaSeconds ); }

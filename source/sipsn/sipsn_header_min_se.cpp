@@ -3,9 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_frame.h"
-
-using sipsn::Cursor;
 
 struct SipsnHeaderMinSe
 {
@@ -13,25 +10,26 @@ struct SipsnHeaderMinSe
     int64_t             deltaSeconds;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderMinSe::deltaSeconds, &SipsnHeaderMinSe::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "deltaSeconds", &SipsnHeaderMinSe::deltaSeconds, sipsn::rule::deltaSeconds ),
+            sipsn::OtherParams( &SipsnHeaderMinSe::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderMinSe, sipsn___PbsMinSe, "Min-Se" )
+SIPSN_DEFINE_NAME( MinSe, "Min-Se" )
 
-static SipsnHeaderMinSe *TryDecode( PbString *line );
-static PbString         *EncodeLine( SipsnHeaderMinSe *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderMinSe, sipsn::Params< SipsnHeaderMinSe > > shape{
+    { .rest = sipsn::Rest::isIgnored } };
 
-static constexpr sipsn::Single< SipsnHeaderMinSe > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderMinSe, sipsnHeaderMinSe, SIPSN_HEADER_MIN_SE, sipsn___PbsMinSe, shape )
+SIPSN_DEFINE_HEADER( MinSe, SIPSN_HEADER_MIN_SE, shape )
 
 SipsnHeaderMinSe *sipsnHeaderMinSeCreate( int64_t deltaSeconds )
 {
     PB_ASSERT( sipsnDeltaSecondsOk( deltaSeconds ) );
-    SipsnHeaderMinSe *hdr = pb::New< SipsnHeaderMinSe >();
-    hdr->deltaSeconds     = deltaSeconds;
-    hdr->genericParams    = sipsnGenericParamsCreate();
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderMinSe::deltaSeconds, deltaSeconds );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -46,26 +44,4 @@ SipsnGenericParams *sipsnHeaderMinSeGenericParams( SipsnHeaderMinSe *hdr ) { ret
 void                sipsnHeaderMinSeSetGenericParams( SipsnHeaderMinSe **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static SipsnHeaderMinSe *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t deltaSeconds = sipsn::TakeDecimal( in );
-    if( !sipsnDeltaSecondsOk( deltaSeconds ) ) return nullptr;
-
-    pb::Ref    hdr{ sipsnHeaderMinSeCreate( deltaSeconds ) };
-    const auto takeTyped = []( Cursor & ) { return false; };
-    const bool good      = sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped, sipsn::Rest::isIgnored );
-    return good ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderMinSe *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Int( hdr->deltaSeconds );
-        sipsn::ParamWriter{ out, hdr->genericParams }.Generic();
-    } );
 }

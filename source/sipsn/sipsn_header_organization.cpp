@@ -3,23 +3,32 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_frame.h"
+
+namespace sipsn::rule {
+
+static constexpr TextRule organization{
+    .words = "a text", .ok = sipsnOrganizationOk, .production = sipsn___SkipOrganization, .normal = CollapseBlanks };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderOrganization
 {
     PbObj     obj;
     PbString *organization;
 
-    using Members = pb::Members< &SipsnHeaderOrganization::organization >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "organization", &SipsnHeaderOrganization::organization, sipsn::rule::organization ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderOrganization, sipsn___PbsOrganization, "Organization" )
+SIPSN_DEFINE_NAME( Organization, "Organization" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderOrganization > shape{
-    .text = &SipsnHeaderOrganization::organization, .ok = sipsnOrganizationOk, .normalized = sipsn::CollapseBlanks };
+static constexpr sipsn::WholeLine< SipsnHeaderOrganization > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderOrganization, sipsnHeaderOrganization, SIPSN_HEADER_ORGANIZATION,
-                     sipsn___PbsOrganization, shape )
+SIPSN_DEFINE_HEADER( Organization, SIPSN_HEADER_ORGANIZATION, shape )
 
 // The normaliser checks the text.
 SipsnHeaderOrganization *sipsnHeaderOrganizationCreate( PbString *organization )

@@ -3,28 +3,26 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderPAssertedIdentity
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderPAssertedIdentity::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "identityValues", &SipsnHeaderPAssertedIdentity::items,
+                                           sipsn___SkipIdentityValue, sipsn::schemaIdentityValue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderPAssertedIdentity, sipsn___PbsPAssertedIdentity, "P-Asserted-Identity" )
+SIPSN_DEFINE_NAME( PAssertedIdentity, "P-Asserted-Identity" )
 
-static constexpr sipsn::List< SipsnHeaderPAssertedIdentity > shape{
-    .items   = &SipsnHeaderPAssertedIdentity::items,
-    .item    = sipsn___SkipIdentityValue,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderPAssertedIdentity > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPAssertedIdentity, sipsnHeaderPAssertedIdentity, SIPSN_HEADER_P_ASSERTED_IDENTITY,
-                     sipsn___PbsPAssertedIdentity, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderPAssertedIdentity, sipsnHeaderPAssertedIdentity, IdentityValues, IdentityValue,
-                   SipsnIdentityValue, identityValue, sipsn___IdentityValueEncode )
+SIPSN_DEFINE_HEADER( PAssertedIdentity, SIPSN_HEADER_P_ASSERTED_IDENTITY, shape )
+SIPSN_DEFINE_LIST( PAssertedIdentity, IdentityValues, IdentityValue, SipsnIdentityValue, identityValue,
+                   sipsn___IdentityValueEncode )
 
 SipsnHeaderPAssertedIdentity *sipsnHeaderPAssertedIdentityCreate( void ) { return shape.Create(); }
 void sipsnHeaderPAssertedIdentityClearIdentityValues( SipsnHeaderPAssertedIdentity **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -1,7 +1,7 @@
 // SipsnHeaderPCalledPartyId: the P-Called-Party-ID header field, RFC 7315 section 4.2.
 #include "sipsn_header_p_called_party_id.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
 struct SipsnHeaderPCalledPartyId
@@ -11,21 +11,26 @@ struct SipsnHeaderPCalledPartyId
     PbString           *displayName;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderPCalledPartyId::iri, &SipsnHeaderPCalledPartyId::displayName,
-                                 &SipsnHeaderPCalledPartyId::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHeaderPCalledPartyId::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHeaderPCalledPartyId::displayName, sipsn::rule::displayName ),
+            sipsn::OtherParams( &SipsnHeaderPCalledPartyId::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderPCalledPartyId, sipsn___PbsPCalledPartyId, "P-Called-Party-Id" )
+SIPSN_DEFINE_NAME( PCalledPartyId, "P-Called-Party-Id" )
 
-static constexpr sipsn::Address< SipsnHeaderPCalledPartyId > shape{};
+static constexpr sipsn::LastLine< SipsnHeaderPCalledPartyId, sipsn::Address< SipsnHeaderPCalledPartyId > > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPCalledPartyId, sipsnHeaderPCalledPartyId, SIPSN_HEADER_P_CALLED_PARTY_ID,
-                     sipsn___PbsPCalledPartyId, shape )
+SIPSN_DEFINE_HEADER( PCalledPartyId, SIPSN_HEADER_P_CALLED_PARTY_ID, shape )
 
 SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnHeaderPCalledPartyId::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

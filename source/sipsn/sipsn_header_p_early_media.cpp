@@ -3,23 +3,27 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
+
+namespace sipsn::rule {
+
+static constexpr TextRule emParam{ .words = "an em-param", .ok = sipsnEmParamOk, .production = sipsn___SkipEmParam };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderPEarlyMedia
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderPEarlyMedia::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "emParams", &SipsnHeaderPEarlyMedia::items, sipsn::rule::emParam ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderPEarlyMedia, sipsn___PbsPEarlyMedia, "P-Early-Media" )
+SIPSN_DEFINE_NAME( PEarlyMedia, "P-Early-Media" )
 
-static constexpr sipsn::List< SipsnHeaderPEarlyMedia > shape{
-    .items   = &SipsnHeaderPEarlyMedia::items,
-    .item    = sipsn___SkipEmParam,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-};
+static constexpr sipsn::List< SipsnHeaderPEarlyMedia > shape{ .noLines = sipsn::NoLines::givesEmptyHeader };
 
 static PbString *Stored( PbString *emParam )
 {
@@ -27,9 +31,8 @@ static PbString *Stored( PbString *emParam )
     return pb::Retain( emParam );
 }
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPEarlyMedia, sipsnHeaderPEarlyMedia, SIPSN_HEADER_P_EARLY_MEDIA, sipsn___PbsPEarlyMedia,
-                     shape )
-SIPSN_DEFINE_LIST( SipsnHeaderPEarlyMedia, sipsnHeaderPEarlyMedia, EmParams, EmParam, PbString, emParam, Stored )
+SIPSN_DEFINE_HEADER( PEarlyMedia, SIPSN_HEADER_P_EARLY_MEDIA, shape )
+SIPSN_DEFINE_LIST( PEarlyMedia, EmParams, EmParam, PbString, emParam, Stored )
 
 SipsnHeaderPEarlyMedia *sipsnHeaderPEarlyMediaCreate( void ) { return shape.Create(); }
 

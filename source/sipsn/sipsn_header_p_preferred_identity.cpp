@@ -3,28 +3,26 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderPPreferredIdentity
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderPPreferredIdentity::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "identityValues", &SipsnHeaderPPreferredIdentity::items,
+                                           sipsn___SkipIdentityValue, sipsn::schemaIdentityValue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderPPreferredIdentity, sipsn___PbsPPreferredIdentity, "P-Preferred-Identity" )
+SIPSN_DEFINE_NAME( PPreferredIdentity, "P-Preferred-Identity" )
 
-static constexpr sipsn::List< SipsnHeaderPPreferredIdentity > shape{
-    .items   = &SipsnHeaderPPreferredIdentity::items,
-    .item    = sipsn___SkipIdentityValue,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderPPreferredIdentity > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPPreferredIdentity, sipsnHeaderPPreferredIdentity, SIPSN_HEADER_P_PREFERRED_IDENTITY,
-                     sipsn___PbsPPreferredIdentity, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderPPreferredIdentity, sipsnHeaderPPreferredIdentity, IdentityValues, IdentityValue,
-                   SipsnIdentityValue, identityValue, sipsn___IdentityValueEncode )
+SIPSN_DEFINE_HEADER( PPreferredIdentity, SIPSN_HEADER_P_PREFERRED_IDENTITY, shape )
+SIPSN_DEFINE_LIST( PPreferredIdentity, IdentityValues, IdentityValue, SipsnIdentityValue, identityValue,
+                   sipsn___IdentityValueEncode )
 
 SipsnHeaderPPreferredIdentity *sipsnHeaderPPreferredIdentityCreate( void ) { return shape.Create(); }
 void                           sipsnHeaderPPreferredIdentityClearIdentityValues( SipsnHeaderPPreferredIdentity **hdr )

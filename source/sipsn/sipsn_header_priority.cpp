@@ -3,22 +3,32 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_frame.h"
+
+namespace sipsn::rule {
+
+static constexpr TextRule priorityValue{
+    .words = "a priority", .ok = sipsnPriorityValueOk, .production = sipsn___SkipPriorityValue, .normal = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderPriority
 {
     PbObj     obj;
     PbString *priorityValue;
 
-    using Members = pb::Members< &SipsnHeaderPriority::priorityValue >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "priorityValue", &SipsnHeaderPriority::priorityValue, sipsn::rule::priorityValue ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME_CONSTANT( sipsn___PbsPriority, "Priority" )
+SIPSN_DEFINE_NAME_CONSTANT( Priority, "Priority" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderPriority > shape{
-    .text = &SipsnHeaderPriority::priorityValue, .ok = sipsnPriorityValueOk, .normalized = sipsn::ToLower };
+static constexpr sipsn::WholeLine< SipsnHeaderPriority > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPriority, sipsnHeaderPriority, SIPSN_HEADER_PRIORITY, sipsn___PbsPriority, shape )
+SIPSN_DEFINE_HEADER( Priority, SIPSN_HEADER_PRIORITY, shape )
 
 static PbString *emergency;
 static PbString *urgent;

@@ -3,36 +3,42 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 using sipsn::StringFrom;
+
+namespace sipsn::rule {
+
+static constexpr TextRule privValue{ .words      = "a privacy value",
+                                     .ok         = sipsnPrivValueOk,
+                                     .production = sipsn___SkipPrivValue,
+                                     .decoded    = LowerFromChars,
+                                     .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderPrivacy
 {
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderPrivacy::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "privValues", &SipsnHeaderPrivacy::items, sipsn::rule::privValue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderPrivacy, sipsn___PbsPrivacy, "Privacy" )
+SIPSN_DEFINE_NAME( Privacy, "Privacy" )
 
-static constexpr sipsn::Set< SipsnHeaderPrivacy > shape{
-    .items     = &SipsnHeaderPrivacy::items,
-    .item      = sipsn___SkipPrivValue,
-    .separator = sipsn::semicolon,
-    .stored    = sipsn::LowerFromChars,
-};
+static constexpr sipsn::Set< SipsnHeaderPrivacy > shape{ .separator = sipsn::semicolon };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderPrivacy, sipsnHeaderPrivacy, SIPSN_HEADER_PRIVACY, sipsn___PbsPrivacy, shape )
+SIPSN_DEFINE_HEADER( Privacy, SIPSN_HEADER_PRIVACY, shape )
 
 static PbString *Key( PbString *privValue )
 {
     PB_ASSERT( sipsnPrivValueOk( privValue ) );
     return sipsnPrivValueNormalize( privValue );
 }
-SIPSN_DEFINE_SET( SipsnHeaderPrivacy, sipsnHeaderPrivacy, PrivValues, PrivValue, privValue, Key )
+SIPSN_DEFINE_SET( Privacy, PrivValues, PrivValue, privValue, Key )
 
 SipsnHeaderPrivacy *sipsnHeaderPrivacyCreate( void ) { return shape.Create(); }
 

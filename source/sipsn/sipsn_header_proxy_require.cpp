@@ -3,8 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 using sipsn::StringFrom;
 
@@ -13,26 +11,24 @@ struct SipsnHeaderProxyRequire
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderProxyRequire::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "optionTags", &SipsnHeaderProxyRequire::items, sipsn::rule::optionTag ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderProxyRequire, sipsn___PbsProxyRequire, "Proxy-Require" )
+SIPSN_DEFINE_NAME( ProxyRequire, "Proxy-Require" )
 
-static constexpr sipsn::Set< SipsnHeaderProxyRequire > shape{
-    .items  = &SipsnHeaderProxyRequire::items,
-    .item   = sipsn___SkipOptionTag,
-    .stored = sipsn::LowerFromChars,
-};
+static constexpr sipsn::Set< SipsnHeaderProxyRequire > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderProxyRequire, sipsnHeaderProxyRequire, SIPSN_HEADER_PROXY_REQUIRE,
-                     sipsn___PbsProxyRequire, shape )
+SIPSN_DEFINE_HEADER( ProxyRequire, SIPSN_HEADER_PROXY_REQUIRE, shape )
 
 static PbString *Key( PbString *optionTag )
 {
     PB_ASSERT( sipsnOptionTagOk( optionTag ) );
     return sipsnOptionTagNormalize( optionTag );
 }
-SIPSN_DEFINE_SET( SipsnHeaderProxyRequire, sipsnHeaderProxyRequire, OptionTags, OptionTag, optionTag, Key )
+SIPSN_DEFINE_SET( ProxyRequire, OptionTags, OptionTag, optionTag, Key )
 
 SipsnHeaderProxyRequire *sipsnHeaderProxyRequireCreate( void ) { return shape.Create(); }
 

@@ -3,10 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-
-using sipsn::Cursor, sipsn::Span;
 
 struct SipsnHeaderRack
 {
@@ -15,34 +11,31 @@ struct SipsnHeaderRack
     int64_t   cseq;
     PbString *method;
 
-    using Members = pb::Members< &SipsnHeaderRack::responseNum, &SipsnHeaderRack::cseq, &SipsnHeaderRack::method >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "responseNum", &SipsnHeaderRack::responseNum, sipsn::rule::responseNum ),
+            sipsn::Int( "cseq", &SipsnHeaderRack::cseq, sipsn::rule::cseq ),
+            sipsn::Text( "method", &SipsnHeaderRack::method, sipsn::rule::method ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRack, sipsn___PbsRack, "Rack" )
+SIPSN_DEFINE_NAME( Rack, "Rack" )
 
-static SipsnHeaderRack *TryDecode( PbString *line );
-static PbString        *EncodeLine( SipsnHeaderRack *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderRack, sipsn::Words< SipsnHeaderRack > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderRack > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderRack, sipsnHeaderRack, SIPSN_HEADER_RACK, sipsn___PbsRack, shape )
-
-// Takes over the reference.
-static SipsnHeaderRack *CreateOwning( int64_t responseNum, int64_t cseq, PbString *method )
-{
-    SipsnHeaderRack *hdr = pb::New< SipsnHeaderRack >();
-    hdr->responseNum     = responseNum;
-    hdr->cseq            = cseq;
-    hdr->method          = method;
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( Rack, SIPSN_HEADER_RACK, shape )
 
 SipsnHeaderRack *sipsnHeaderRackCreate( int64_t responseNum, int64_t cseq, PbString *method )
 {
     PB_ASSERT( sipsnResponseNumOk( responseNum ) );
     PB_ASSERT( sipsnCseqOk( cseq ) );
     PB_ASSERT( sipsnMethodOk( method ) );
-    return CreateOwning( responseNum, cseq, pb::Retain( method ) );
+    SipsnHeaderRack *hdr = sipsn::NewWith( &SipsnHeaderRack::method, pb::Retain( method ) );
+    hdr->responseNum     = responseNum;
+    hdr->cseq            = cseq;
+    return hdr;
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -60,28 +53,4 @@ PbString *sipsnHeaderRackMethod( SipsnHeaderRack *hdr ) { return PB_GET( hdr, me
 void      sipsnHeaderRackSetMethod( SipsnHeaderRack **hdr, PbString *method )
 {
     PB_SET( hdr, method, sipsnMethodOk( method ), pb::Retain( method ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static SipsnHeaderRack *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t responseNum = sipsn::TakeDecimal( in );
-    if( !sipsnResponseNumOk( responseNum ) || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    const int64_t cseq = sipsn::TakeDecimal( in );
-    if( !sipsnCseqOk( cseq ) || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    const Span method = in.Take( sipsn___SkipMethod );
-    return method && in.AtEnd() ? CreateOwning( responseNum, cseq, method.ToString() ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderRack *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Int( hdr->responseNum );
-        out.Char( ' ' );
-        out.Int( hdr->cseq );
-        out.Char( ' ' );
-        out.Text( hdr->method );
-    } );
 }

@@ -3,26 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderReason
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderReason::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "reasons", &SipsnHeaderReason::items, sipsn___SkipReason, sipsn::schemaReason ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderReason, sipsn___PbsReason, "Reason" )
+SIPSN_DEFINE_NAME( Reason, "Reason" )
 
-static constexpr sipsn::List< SipsnHeaderReason > shape{
-    .items   = &SipsnHeaderReason::items,
-    .item    = sipsn___SkipReason,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderReason > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderReason, sipsnHeaderReason, SIPSN_HEADER_REASON, sipsn___PbsReason, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderReason, sipsnHeaderReason, Reasons, Reason, SipsnReason, reason, sipsn___ReasonEncode )
+SIPSN_DEFINE_HEADER( Reason, SIPSN_HEADER_REASON, shape )
+SIPSN_DEFINE_LIST( Reason, Reasons, Reason, SipsnReason, reason, sipsn___ReasonEncode )
 
 SipsnHeaderReason *sipsnHeaderReasonCreate( void ) { return shape.Create(); }
 void               sipsnHeaderReasonClearReasons( SipsnHeaderReason **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,28 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderRecordRoute
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderRecordRoute::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "routes", &SipsnHeaderRecordRoute::items, sipsn___SkipRoute, sipsn::schemaRoute ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRecordRoute, sipsn___PbsRecordRoute, "Record-Route" )
+SIPSN_DEFINE_NAME( RecordRoute, "Record-Route" )
 
-static constexpr sipsn::List< SipsnHeaderRecordRoute > shape{
-    .items   = &SipsnHeaderRecordRoute::items,
-    .item    = sipsn___SkipRoute,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderRecordRoute > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderRecordRoute, sipsnHeaderRecordRoute, SIPSN_HEADER_RECORD_ROUTE, sipsn___PbsRecordRoute,
-                     shape )
-SIPSN_DEFINE_LIST( SipsnHeaderRecordRoute, sipsnHeaderRecordRoute, Routes, Route, SipsnRoute, route,
-                   sipsn___RouteEncode )
+SIPSN_DEFINE_HEADER( RecordRoute, SIPSN_HEADER_RECORD_ROUTE, shape )
+SIPSN_DEFINE_LIST( RecordRoute, Routes, Route, SipsnRoute, route, sipsn___RouteEncode )
 
 SipsnHeaderRecordRoute *sipsnHeaderRecordRouteCreate( void ) { return shape.Create(); }
 void                    sipsnHeaderRecordRouteClearRoutes( SipsnHeaderRecordRoute **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

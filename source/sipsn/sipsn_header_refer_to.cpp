@@ -1,9 +1,8 @@
 // SipsnHeaderReferTo: the Refer-To header field, RFC 3515 section 2.1.
 #include "sipsn_header_refer_to.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderReferTo
 {
@@ -12,20 +11,28 @@ struct SipsnHeaderReferTo
     PbString           *displayName;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnHeaderReferTo::iri, &SipsnHeaderReferTo::displayName, &SipsnHeaderReferTo::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHeaderReferTo::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHeaderReferTo::displayName, sipsn::rule::displayName ),
+            sipsn::OtherParams( &SipsnHeaderReferTo::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderReferTo, sipsn___PbsReferTo, "Refer-To" )
+SIPSN_DEFINE_NAME( ReferTo, "Refer-To" )
 
-static constexpr sipsn::Address< SipsnHeaderReferTo > shape{ .bareAgain = sipsn___SkipUri };
+// A bare URI behind which something other than parameters stands is read as far as any URI goes.
+static constexpr sipsn::LastLine< SipsnHeaderReferTo, sipsn::Address< SipsnHeaderReferTo > > shape{
+    { .bareAgain = sipsn___SkipUri } };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderReferTo, sipsnHeaderReferTo, SIPSN_HEADER_REFER_TO, sipsn___PbsReferTo, shape )
+SIPSN_DEFINE_HEADER( ReferTo, SIPSN_HEADER_REFER_TO, shape )
 
 SipsnHeaderReferTo *sipsnHeaderReferToCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnHeaderReferTo::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

@@ -1,9 +1,15 @@
 // SipsnHeaderReferredBy: the Referred-By header field, RFC 3892 section 3.
 #include "sipsn_header_referred_by.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
+
+namespace sipsn::rule {
+
+static constexpr TextRule cid{
+    .words = "a Content-ID", .ok = sipsnSipCleanMsgIdOk, .production = sipsn___SkipSipCleanMsgId };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderReferredBy
 {
@@ -13,32 +19,27 @@ struct SipsnHeaderReferredBy
     PbString           *cid;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderReferredBy::iri, &SipsnHeaderReferredBy::displayName,
-                                 &SipsnHeaderReferredBy::cid, &SipsnHeaderReferredBy::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHeaderReferredBy::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHeaderReferredBy::displayName, sipsn::rule::displayName ),
+            sipsn::QuotedParam( "cid", &SipsnHeaderReferredBy::cid, sipsn::rule::cid ),
+            sipsn::OtherParams( &SipsnHeaderReferredBy::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderReferredBy, sipsn___PbsReferredBy, "Referred-By" )
+SIPSN_DEFINE_NAME( ReferredBy, "Referred-By" )
 
-static bool TakeTypedParam( sipsn::Cursor &in, SipsnHeaderReferredBy *hdr )
-{
-    return sipsn::TakeQuoted( in, "cid", sipsn___SkipSipCleanMsgId, hdr->cid );
-}
+static constexpr sipsn::LastLine< SipsnHeaderReferredBy, sipsn::Address< SipsnHeaderReferredBy > > shape{};
 
-static void WriteTypedParams( sipsn::ParamWriter &params, SipsnHeaderReferredBy *hdr )
-{
-    params.Quoted( "cid", hdr->cid );
-}
-
-static constexpr sipsn::Address< SipsnHeaderReferredBy > shape{ .takeTyped  = TakeTypedParam,
-                                                                .writeTyped = WriteTypedParams };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderReferredBy, sipsnHeaderReferredBy, SIPSN_HEADER_REFERRED_BY, sipsn___PbsReferredBy,
-                     shape )
+SIPSN_DEFINE_HEADER( ReferredBy, SIPSN_HEADER_REFERRED_BY, shape )
 
 SipsnHeaderReferredBy *sipsnHeaderReferredByCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnHeaderReferredBy::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

@@ -1,7 +1,7 @@
 // SipsnHeaderRemotePartyId: the Remote-Party-ID header field, draft-ietf-sip-privacy-04 section 5.
 #include "sipsn_header_remote_party_id.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
 struct SipsnHeaderRemotePartyId
@@ -11,21 +11,26 @@ struct SipsnHeaderRemotePartyId
     PbString           *displayName;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderRemotePartyId::iri, &SipsnHeaderRemotePartyId::displayName,
-                                 &SipsnHeaderRemotePartyId::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHeaderRemotePartyId::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHeaderRemotePartyId::displayName, sipsn::rule::displayName ),
+            sipsn::OtherParams( &SipsnHeaderRemotePartyId::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRemotePartyId, sipsn___PbsRemotePartyId, "Remote-Party-Id" )
+SIPSN_DEFINE_NAME( RemotePartyId, "Remote-Party-Id" )
 
-static constexpr sipsn::Address< SipsnHeaderRemotePartyId > shape{};
+static constexpr sipsn::LastLine< SipsnHeaderRemotePartyId, sipsn::Address< SipsnHeaderRemotePartyId > > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderRemotePartyId, sipsnHeaderRemotePartyId, SIPSN_HEADER_REMOTE_PARTY_ID,
-                     sipsn___PbsRemotePartyId, shape )
+SIPSN_DEFINE_HEADER( RemotePartyId, SIPSN_HEADER_REMOTE_PARTY_ID, shape )
 
 SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnHeaderRemotePartyId::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

@@ -3,9 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-
-using sipsn::Cursor, sipsn::Span;
 
 struct SipsnHeaderReplaces
 {
@@ -16,33 +13,31 @@ struct SipsnHeaderReplaces
     bool                earlyOnly;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnHeaderReplaces::callId, &SipsnHeaderReplaces::toTag, &SipsnHeaderReplaces::fromTag,
-                     &SipsnHeaderReplaces::earlyOnly, &SipsnHeaderReplaces::genericParams >;
+    // RFC 3891 writes from-tag before to-tag.
+    using WireOrder = std::index_sequence< 0, 2, 1, 3, 4 >;
+
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "callId", &SipsnHeaderReplaces::callId, sipsn::rule::callId ),
+            sipsn::TextParam( "to-tag", &SipsnHeaderReplaces::toTag, sipsn::rule::tag, "toTag" ),
+            sipsn::TextParam( "from-tag", &SipsnHeaderReplaces::fromTag, sipsn::rule::tag, "fromTag" ),
+            sipsn::FlagParam( "early-only", &SipsnHeaderReplaces::earlyOnly, "earlyOnly" ),
+            sipsn::OtherParams( &SipsnHeaderReplaces::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderReplaces, sipsn___PbsReplaces, "Replaces" )
+SIPSN_DEFINE_NAME( Replaces, "Replaces" )
 
-static SipsnHeaderReplaces *TryDecodeLine( PbString *line );
-static PbString            *EncodeLine( SipsnHeaderReplaces *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderReplaces, sipsn::Params< SipsnHeaderReplaces > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderReplaces > shape{ .tryDecode = TryDecodeLine, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderReplaces, sipsnHeaderReplaces, SIPSN_HEADER_REPLACES, sipsn___PbsReplaces, shape )
-
-// Takes over the reference.
-static SipsnHeaderReplaces *CreateOwning( PbString *callId )
-{
-    SipsnHeaderReplaces *hdr = pb::New< SipsnHeaderReplaces >();
-    hdr->callId              = callId;
-    hdr->genericParams       = sipsnGenericParamsCreate();
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( Replaces, SIPSN_HEADER_REPLACES, shape )
 
 SipsnHeaderReplaces *sipsnHeaderReplacesCreate( PbString *callId )
 {
     PB_ASSERT( sipsnCallIdOk( callId ) );
-    return CreateOwning( pb::Retain( callId ) );
+    return sipsn::NewWith( &SipsnHeaderReplaces::callId, pb::Retain( callId ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -82,36 +77,4 @@ SipsnGenericParams *sipsnHeaderReplacesGenericParams( SipsnHeaderReplaces *hdr )
 void sipsnHeaderReplacesSetGenericParams( SipsnHeaderReplaces **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static bool TakeTypedParam( Cursor &in, SipsnHeaderReplaces *hdr )
-{
-    return sipsn::TakeText( in, "from-tag", sipsn___SkipTag, hdr->fromTag ) ||
-           sipsn::TakeText( in, "to-tag", sipsn___SkipTag, hdr->toTag ) ||
-           sipsn::TakeFlag( in, "early-only", hdr->earlyOnly );
-}
-
-static SipsnHeaderReplaces *TryDecodeLine( PbString *line )
-{
-    Cursor     in{ line->chs, line->length };
-    const Span callId = in.Take( sipsn___SkipCallId );
-    if( !callId ) return nullptr;
-
-    pb::Ref    hdr{ CreateOwning( callId.ToString() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hdr.Get() ); };
-    return sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped ) ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderReplaces *hdr )
-{
-    return sipsn::TextOf( [ & ]( sipsn::TextWriter &out ) {
-        out.Text( hdr->callId );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "from-tag", hdr->fromTag );
-        params.Text( "to-tag", hdr->toTag );
-        params.Flag( "early-only", hdr->earlyOnly );
-        params.Generic();
-    } );
 }

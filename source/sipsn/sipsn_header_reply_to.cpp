@@ -1,7 +1,7 @@
 // SipsnHeaderReplyTo: the Reply-To header field, RFC 3261 section 20.31.
 #include "sipsn_header_reply_to.h"
 
-#include "sipsn_header_address.h"
+#include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
 struct SipsnHeaderReplyTo
@@ -11,20 +11,26 @@ struct SipsnHeaderReplyTo
     PbString           *displayName;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnHeaderReplyTo::iri, &SipsnHeaderReplyTo::displayName, &SipsnHeaderReplyTo::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHeaderReplyTo::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHeaderReplyTo::displayName, sipsn::rule::displayName ),
+            sipsn::OtherParams( &SipsnHeaderReplyTo::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderReplyTo, sipsn___PbsReplyTo, "Reply-To" )
+SIPSN_DEFINE_NAME( ReplyTo, "Reply-To" )
 
-static constexpr sipsn::Address< SipsnHeaderReplyTo > shape{};
+static constexpr sipsn::LastLine< SipsnHeaderReplyTo, sipsn::Address< SipsnHeaderReplyTo > > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderReplyTo, sipsnHeaderReplyTo, SIPSN_HEADER_REPLY_TO, sipsn___PbsReplyTo, shape )
+SIPSN_DEFINE_HEADER( ReplyTo, SIPSN_HEADER_REPLY_TO, shape )
 
 SipsnHeaderReplyTo *sipsnHeaderReplyToCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith( &SipsnHeaderReplyTo::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

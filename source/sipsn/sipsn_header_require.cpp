@@ -3,8 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 using sipsn::StringFrom;
 
@@ -13,25 +11,24 @@ struct SipsnHeaderRequire
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderRequire::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "optionTags", &SipsnHeaderRequire::items, sipsn::rule::optionTag ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRequire, sipsn___PbsRequire, "Require" )
+SIPSN_DEFINE_NAME( Require, "Require" )
 
-static constexpr sipsn::Set< SipsnHeaderRequire > shape{
-    .items  = &SipsnHeaderRequire::items,
-    .item   = sipsn___SkipOptionTag,
-    .stored = sipsn::LowerFromChars,
-};
+static constexpr sipsn::Set< SipsnHeaderRequire > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderRequire, sipsnHeaderRequire, SIPSN_HEADER_REQUIRE, sipsn___PbsRequire, shape )
+SIPSN_DEFINE_HEADER( Require, SIPSN_HEADER_REQUIRE, shape )
 
 static PbString *Key( PbString *optionTag )
 {
     PB_ASSERT( sipsnOptionTagOk( optionTag ) );
     return sipsnOptionTagNormalize( optionTag );
 }
-SIPSN_DEFINE_SET( SipsnHeaderRequire, sipsnHeaderRequire, OptionTags, OptionTag, optionTag, Key )
+SIPSN_DEFINE_SET( Require, OptionTags, OptionTag, optionTag, Key )
 
 SipsnHeaderRequire *sipsnHeaderRequireCreate( void ) { return shape.Create(); }
 

@@ -3,23 +3,21 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderResourcePriority
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderResourcePriority::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "rvalues", &SipsnHeaderResourcePriority::items, sipsn::rule::rvalue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderResourcePriority, sipsn___PbsResourcePriority, "Resource-Priority" )
+SIPSN_DEFINE_NAME( ResourcePriority, "Resource-Priority" )
 
-static constexpr sipsn::List< SipsnHeaderResourcePriority > shape{
-    .items   = &SipsnHeaderResourcePriority::items,
-    .item    = sipsn___SkipRvalue,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-};
+static constexpr sipsn::List< SipsnHeaderResourcePriority > shape{ .noLines = sipsn::NoLines::givesEmptyHeader };
 
 static PbString *Stored( PbString *rvalue )
 {
@@ -27,9 +25,8 @@ static PbString *Stored( PbString *rvalue )
     return pb::Retain( rvalue );
 }
 
-SIPSN_DEFINE_HEADER( SipsnHeaderResourcePriority, sipsnHeaderResourcePriority, SIPSN_HEADER_RESOURCE_PRIORITY,
-                     sipsn___PbsResourcePriority, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderResourcePriority, sipsnHeaderResourcePriority, Rvalues, Rvalue, PbString, rvalue, Stored )
+SIPSN_DEFINE_HEADER( ResourcePriority, SIPSN_HEADER_RESOURCE_PRIORITY, shape )
+SIPSN_DEFINE_LIST( ResourcePriority, Rvalues, Rvalue, PbString, rvalue, Stored )
 
 SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityCreate( void ) { return shape.Create(); }
 

@@ -3,11 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-#include "sipsn_token_internal.h"
-
-using sipsn::Cursor;
 
 struct SipsnHeaderRetryAfter
 {
@@ -16,27 +11,27 @@ struct SipsnHeaderRetryAfter
     int64_t             duration;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderRetryAfter::deltaSeconds, &SipsnHeaderRetryAfter::duration,
-                                 &SipsnHeaderRetryAfter::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "deltaSeconds", &SipsnHeaderRetryAfter::deltaSeconds, sipsn::rule::deltaSeconds ),
+            sipsn::IntParam( "duration", &SipsnHeaderRetryAfter::duration, sipsn::rule::deltaSeconds ),
+            sipsn::OtherParams( &SipsnHeaderRetryAfter::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRetryAfter, sipsn___PbsRetryAfter, "Retry-After" )
+SIPSN_DEFINE_NAME( RetryAfter, "Retry-After" )
 
-static SipsnHeaderRetryAfter *TryDecode( PbString *line );
-static PbString              *EncodeLine( SipsnHeaderRetryAfter *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderRetryAfter, sipsn::Params< SipsnHeaderRetryAfter > > shape{
+    { .rest = sipsn::Rest::isIgnored, .ignored = sipsn___SkipComment } };
 
-static constexpr sipsn::Single< SipsnHeaderRetryAfter > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderRetryAfter, sipsnHeaderRetryAfter, SIPSN_HEADER_RETRY_AFTER, sipsn___PbsRetryAfter,
-                     shape )
+SIPSN_DEFINE_HEADER( RetryAfter, SIPSN_HEADER_RETRY_AFTER, shape )
 
 SipsnHeaderRetryAfter *sipsnHeaderRetryAfterCreate( int64_t deltaSeconds )
 {
     PB_ASSERT( sipsnDeltaSecondsOk( deltaSeconds ) );
-    SipsnHeaderRetryAfter *hdr = pb::New< SipsnHeaderRetryAfter >();
-    hdr->deltaSeconds          = deltaSeconds;
-    hdr->genericParams         = sipsnGenericParamsCreate();
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderRetryAfter::deltaSeconds, deltaSeconds );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -63,32 +58,4 @@ SipsnGenericParams *sipsnHeaderRetryAfterGenericParams( SipsnHeaderRetryAfter *h
 void sipsnHeaderRetryAfterSetGenericParams( SipsnHeaderRetryAfter **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static SipsnHeaderRetryAfter *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t deltaSeconds = sipsn::TakeDecimal( in );
-    if( !sipsnDeltaSecondsOk( deltaSeconds ) ) return nullptr;
-    in.Take( sipsn___SkipLws );
-    in.Take( sipsn___SkipComment );
-
-    pb::Ref    hdr{ sipsnHeaderRetryAfterCreate( deltaSeconds ) };
-    const auto takeTyped = [ & ]( Cursor &at ) {
-        return sipsn::TakeInt( at, "duration", sipsn___SkipDeltaSeconds, hdr->duration, sipsn___DeltaSecondsTryDecode );
-    };
-    const bool good = sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped, sipsn::Rest::isIgnored );
-    return good ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderRetryAfter *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Int( hdr->deltaSeconds );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Int( "duration", hdr->duration );
-        params.Generic();
-    } );
 }

@@ -3,26 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderRoute
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderRoute::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "routes", &SipsnHeaderRoute::items, sipsn___SkipRoute, sipsn::schemaRoute ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRoute, sipsn___PbsRoute, "Route" )
+SIPSN_DEFINE_NAME( Route, "Route" )
 
-static constexpr sipsn::List< SipsnHeaderRoute > shape{
-    .items   = &SipsnHeaderRoute::items,
-    .item    = sipsn___SkipRoute,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderRoute > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderRoute, sipsnHeaderRoute, SIPSN_HEADER_ROUTE, sipsn___PbsRoute, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderRoute, sipsnHeaderRoute, Routes, Route, SipsnRoute, route, sipsn___RouteEncode )
+SIPSN_DEFINE_HEADER( Route, SIPSN_HEADER_ROUTE, shape )
+SIPSN_DEFINE_LIST( Route, Routes, Route, SipsnRoute, route, sipsn___RouteEncode )
 
 SipsnHeaderRoute *sipsnHeaderRouteCreate( void ) { return shape.Create(); }
 void              sipsnHeaderRouteClearRoutes( SipsnHeaderRoute **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

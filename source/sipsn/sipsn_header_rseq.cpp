@@ -3,33 +3,30 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_frame.h"
-
-using sipsn::Cursor;
 
 struct SipsnHeaderRseq
 {
     PbObj   obj;
     int64_t responseNum;
 
-    using Members = pb::Members< &SipsnHeaderRseq::responseNum >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "responseNum", &SipsnHeaderRseq::responseNum, sipsn::rule::responseNum ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderRseq, sipsn___PbsRseq, "Rseq" )
+SIPSN_DEFINE_NAME( Rseq, "Rseq" )
 
-static SipsnHeaderRseq *TryDecode( PbString *line );
-static PbString        *EncodeLine( SipsnHeaderRseq *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderRseq, sipsn::Number< SipsnHeaderRseq > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderRseq > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderRseq, sipsnHeaderRseq, SIPSN_HEADER_RSEQ, sipsn___PbsRseq, shape )
+SIPSN_DEFINE_HEADER( Rseq, SIPSN_HEADER_RSEQ, shape )
 
 SipsnHeaderRseq *sipsnHeaderRseqCreate( int64_t responseNum )
 {
     PB_ASSERT( sipsnResponseNumOk( responseNum ) );
-    SipsnHeaderRseq *hdr = pb::New< SipsnHeaderRseq >();
-    hdr->responseNum     = responseNum;
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderRseq::responseNum, responseNum );
 }
 
 int64_t sipsnHeaderRseqResponseNum( SipsnHeaderRseq *hdr ) { return PB_GET( hdr, responseNum ); }
@@ -37,12 +34,3 @@ void    sipsnHeaderRseqSetResponseNum( SipsnHeaderRseq **hdr, int64_t responseNu
 {
     PB_SET( hdr, responseNum, sipsnResponseNumOk( responseNum ), responseNum );
 }
-
-static SipsnHeaderRseq *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t responseNum = sipsn::TakeDecimal( in );
-    return sipsnResponseNumOk( responseNum ) && in.AtEnd() ? sipsnHeaderRseqCreate( responseNum ) : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderRseq *hdr ) { return pbFormatEncodeInt( hdr->responseNum, 10, 0, 0 ); }

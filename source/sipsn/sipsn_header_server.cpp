@@ -4,19 +4,31 @@
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
+namespace sipsn::rule {
+
+static constexpr TextRule server{
+    .words = "products and comments", .ok = sipsnServerOk, .production = sipsn___SkipServer };
+
+} // namespace sipsn::rule
+
 struct SipsnHeaderServer
 {
     PbObj     obj;
     PbString *server;
 
-    using Members = pb::Members< &SipsnHeaderServer::server >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "server", &SipsnHeaderServer::server, sipsn::rule::server ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderServer, sipsn___PbsServer, "Server" )
+SIPSN_DEFINE_NAME( Server, "Server" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderServer > shape{ .text = &SipsnHeaderServer::server, .ok = sipsnServerOk };
+static constexpr sipsn::WholeLine< SipsnHeaderServer > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderServer, sipsnHeaderServer, SIPSN_HEADER_SERVER, sipsn___PbsServer, shape )
+SIPSN_DEFINE_HEADER( Server, SIPSN_HEADER_SERVER, shape )
 
 SipsnHeaderServer *sipsnHeaderServerCreate( PbString *server )
 {

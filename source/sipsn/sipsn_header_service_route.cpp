@@ -3,28 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderServiceRoute
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderServiceRoute::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "routes", &SipsnHeaderServiceRoute::items, sipsn___SkipRoute, sipsn::schemaRoute ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderServiceRoute, sipsn___PbsServiceRoute, "Service-Route" )
+SIPSN_DEFINE_NAME( ServiceRoute, "Service-Route" )
 
-static constexpr sipsn::List< SipsnHeaderServiceRoute > shape{
-    .items   = &SipsnHeaderServiceRoute::items,
-    .item    = sipsn___SkipRoute,
-    .noLines = sipsn::NoLines::givesNull,
-};
+static constexpr sipsn::List< SipsnHeaderServiceRoute > shape{ .noLines = sipsn::NoLines::givesNull };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderServiceRoute, sipsnHeaderServiceRoute, SIPSN_HEADER_SERVICE_ROUTE,
-                     sipsn___PbsServiceRoute, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderServiceRoute, sipsnHeaderServiceRoute, Routes, Route, SipsnRoute, route,
-                   sipsn___RouteEncode )
+SIPSN_DEFINE_HEADER( ServiceRoute, SIPSN_HEADER_SERVICE_ROUTE, shape )
+SIPSN_DEFINE_LIST( ServiceRoute, Routes, Route, SipsnRoute, route, sipsn___RouteEncode )
 
 SipsnHeaderServiceRoute *sipsnHeaderServiceRouteCreate( void ) { return shape.Create(); }
 void sipsnHeaderServiceRouteClearRoutes( SipsnHeaderServiceRoute **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

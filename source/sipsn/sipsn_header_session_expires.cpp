@@ -3,10 +3,16 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
-using sipsn::Cursor;
+namespace sipsn::rule {
+
+static constexpr TextRule refresher{ .words      = "a refresher",
+                                     .ok         = sipsnRefresherOk,
+                                     .production = sipsn___SkipRefresher,
+                                     .decoded    = LowerFromChars,
+                                     .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderSessionExpires
 {
@@ -15,27 +21,27 @@ struct SipsnHeaderSessionExpires
     PbString           *refresher;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderSessionExpires::deltaSeconds, &SipsnHeaderSessionExpires::refresher,
-                                 &SipsnHeaderSessionExpires::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "deltaSeconds", &SipsnHeaderSessionExpires::deltaSeconds, sipsn::rule::deltaSeconds ),
+            sipsn::TextParam( "refresher", &SipsnHeaderSessionExpires::refresher, sipsn::rule::refresher ),
+            sipsn::OtherParams( &SipsnHeaderSessionExpires::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderSessionExpires, sipsn___PbsSessionExpires, "Session-Expires" )
+SIPSN_DEFINE_NAME( SessionExpires, "Session-Expires" )
 
-static SipsnHeaderSessionExpires *TryDecode( PbString *line );
-static PbString                  *EncodeLine( SipsnHeaderSessionExpires *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderSessionExpires, sipsn::Params< SipsnHeaderSessionExpires > > shape{
+    { .rest = sipsn::Rest::isIgnored } };
 
-static constexpr sipsn::Single< SipsnHeaderSessionExpires > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderSessionExpires, sipsnHeaderSessionExpires, SIPSN_HEADER_SESSION_EXPIRES,
-                     sipsn___PbsSessionExpires, shape )
+SIPSN_DEFINE_HEADER( SessionExpires, SIPSN_HEADER_SESSION_EXPIRES, shape )
 
 SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresCreate( int64_t deltaSeconds )
 {
     PB_ASSERT( sipsnDeltaSecondsOk( deltaSeconds ) );
-    SipsnHeaderSessionExpires *hdr = pb::New< SipsnHeaderSessionExpires >();
-    hdr->deltaSeconds              = deltaSeconds;
-    hdr->genericParams             = sipsnGenericParamsCreate();
-    return hdr;
+    return sipsn::NewWith( &SipsnHeaderSessionExpires::deltaSeconds, deltaSeconds );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -62,30 +68,4 @@ SipsnGenericParams *sipsnHeaderSessionExpiresGenericParams( SipsnHeaderSessionEx
 void sipsnHeaderSessionExpiresSetGenericParams( SipsnHeaderSessionExpires **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static SipsnHeaderSessionExpires *TryDecode( PbString *line )
-{
-    Cursor        in{ line->chs, line->length };
-    const int64_t deltaSeconds = sipsn::TakeDecimal( in );
-    if( !sipsnDeltaSecondsOk( deltaSeconds ) ) return nullptr;
-
-    pb::Ref    hdr{ sipsnHeaderSessionExpiresCreate( deltaSeconds ) };
-    const auto takeTyped = [ & ]( Cursor &at ) {
-        return sipsn::TakeText( at, "refresher", sipsn___SkipRefresher, hdr->refresher, sipsn::LowerFromChars );
-    };
-    const bool good = sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped, sipsn::Rest::isIgnored );
-    return good ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderSessionExpires *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Int( hdr->deltaSeconds );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "refresher", hdr->refresher );
-        params.Generic();
-    } );
 }

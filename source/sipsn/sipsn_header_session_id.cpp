@@ -3,9 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-
-using sipsn::Cursor, sipsn::Span;
 
 struct SipsnHeaderSessionId
 {
@@ -14,32 +11,27 @@ struct SipsnHeaderSessionId
     PbString           *remoteUuid;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderSessionId::localUuid, &SipsnHeaderSessionId::remoteUuid,
-                                 &SipsnHeaderSessionId::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "localUuid", &SipsnHeaderSessionId::localUuid, sipsn::rule::sessUuid ),
+            sipsn::TextParam( "remote", &SipsnHeaderSessionId::remoteUuid, sipsn::rule::sessUuid, "remoteUuid" ),
+            sipsn::OtherParams( &SipsnHeaderSessionId::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderSessionId, sipsn___PbsSessionId, "Session-Id" )
+SIPSN_DEFINE_NAME( SessionId, "Session-Id" )
 
-static SipsnHeaderSessionId *TryDecode( PbString *line );
-static PbString             *EncodeLine( SipsnHeaderSessionId *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderSessionId, sipsn::Params< SipsnHeaderSessionId > > shape{
+    { .rest = sipsn::Rest::isIgnored } };
 
-static constexpr sipsn::Single< SipsnHeaderSessionId > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderSessionId, sipsnHeaderSessionId, SIPSN_HEADER_SESSION_ID, sipsn___PbsSessionId, shape )
-
-// Takes over the reference.
-static SipsnHeaderSessionId *CreateOwning( PbString *localUuid )
-{
-    SipsnHeaderSessionId *hdr = pb::New< SipsnHeaderSessionId >();
-    hdr->localUuid            = localUuid;
-    hdr->genericParams        = sipsnGenericParamsCreate();
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( SessionId, SIPSN_HEADER_SESSION_ID, shape )
 
 SipsnHeaderSessionId *sipsnHeaderSessionIdCreate( PbString *sessUuid )
 {
     PB_ASSERT( sipsnSessUuidOk( sessUuid ) );
-    return CreateOwning( pb::Retain( sessUuid ) );
+    return sipsn::NewWith( &SipsnHeaderSessionId::localUuid, pb::Retain( sessUuid ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -66,33 +58,4 @@ SipsnGenericParams *sipsnHeaderSessionIdGenericParams( SipsnHeaderSessionId *hdr
 void sipsnHeaderSessionIdSetGenericParams( SipsnHeaderSessionId **hdr, SipsnGenericParams *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static bool TakeTypedParam( Cursor &in, SipsnHeaderSessionId *hdr )
-{
-    return sipsn::TakeText( in, "remote", sipsn___SkipSessUuid, hdr->remoteUuid );
-}
-
-static SipsnHeaderSessionId *TryDecode( PbString *line )
-{
-    Cursor     in{ line->chs, line->length };
-    const Span uuid = in.Take( sipsn___SkipSessUuid );
-    if( !uuid ) return nullptr;
-
-    pb::Ref    hdr{ CreateOwning( uuid.ToString() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hdr.Get() ); };
-    return sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped, sipsn::Rest::isIgnored ) ? hdr.Detach()
-                                                                                                : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderSessionId *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Text( hdr->localUuid );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "remote", hdr->remoteUuid );
-        params.Generic();
-    } );
 }

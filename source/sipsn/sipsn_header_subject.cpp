@@ -3,22 +3,32 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_token_frame.h"
+
+namespace sipsn::rule {
+
+static constexpr TextRule subject{
+    .words = "a text", .ok = sipsnSubjectOk, .production = sipsn___SkipSubject, .normal = CollapseBlanks };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderSubject
 {
     PbObj     obj;
     PbString *subject;
 
-    using Members = pb::Members< &SipsnHeaderSubject::subject >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "subject", &SipsnHeaderSubject::subject, sipsn::rule::subject ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderSubject, sipsn___PbsSubject, "Subject" )
+SIPSN_DEFINE_NAME( Subject, "Subject" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderSubject > shape{
-    .text = &SipsnHeaderSubject::subject, .ok = sipsnSubjectOk, .normalized = sipsn::CollapseBlanks };
+static constexpr sipsn::WholeLine< SipsnHeaderSubject > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderSubject, sipsnHeaderSubject, SIPSN_HEADER_SUBJECT, sipsn___PbsSubject, shape )
+SIPSN_DEFINE_HEADER( Subject, SIPSN_HEADER_SUBJECT, shape )
 
 // The normaliser checks the text.
 SipsnHeaderSubject *sipsnHeaderSubjectCreate( PbString *subject )

@@ -3,11 +3,21 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-#include "sipsn_token_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+namespace sipsn::rule {
+
+static constexpr TextRule substateValue{ .words      = "a subscription state",
+                                         .ok         = sipsnSubstateValueOk,
+                                         .production = sipsn___SkipSubstateValue,
+                                         .decoded    = LowerFromChars,
+                                         .normal     = ToLower };
+static constexpr TextRule eventReasonValue{ .words      = "a reason",
+                                            .ok         = sipsnEventReasonValueOk,
+                                            .production = sipsn___SkipEventReasonValue,
+                                            .decoded    = LowerFromChars,
+                                            .normal     = ToLower };
+
+} // namespace sipsn::rule
 
 struct SipsnHeaderSubscriptionState
 {
@@ -18,34 +28,29 @@ struct SipsnHeaderSubscriptionState
     int64_t             retryAfter;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHeaderSubscriptionState::substateValue, &SipsnHeaderSubscriptionState::reason,
-                                 &SipsnHeaderSubscriptionState::expires, &SipsnHeaderSubscriptionState::retryAfter,
-                                 &SipsnHeaderSubscriptionState::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "substateValue", &SipsnHeaderSubscriptionState::substateValue, sipsn::rule::substateValue ),
+            sipsn::TextParam( "reason", &SipsnHeaderSubscriptionState::reason, sipsn::rule::eventReasonValue ),
+            sipsn::IntParam( "expires", &SipsnHeaderSubscriptionState::expires, sipsn::rule::deltaSeconds ),
+            sipsn::IntParam( "retry-after", &SipsnHeaderSubscriptionState::retryAfter, sipsn::rule::deltaSeconds,
+                             "retryAfter" ),
+            sipsn::OtherParams( &SipsnHeaderSubscriptionState::genericParams ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderSubscriptionState, sipsn___PbsSubscriptionState, "Subscription-State" )
+SIPSN_DEFINE_NAME( SubscriptionState, "Subscription-State" )
 
-static SipsnHeaderSubscriptionState *TryDecode( PbString *line );
-static PbString                     *EncodeLine( SipsnHeaderSubscriptionState *hdr );
+static constexpr sipsn::LastLine< SipsnHeaderSubscriptionState, sipsn::Params< SipsnHeaderSubscriptionState > > shape{};
 
-static constexpr sipsn::Single< SipsnHeaderSubscriptionState > shape{ .tryDecode = TryDecode, .encode = EncodeLine };
-
-SIPSN_DEFINE_HEADER( SipsnHeaderSubscriptionState, sipsnHeaderSubscriptionState, SIPSN_HEADER_SUBSCRIPTION_STATE,
-                     sipsn___PbsSubscriptionState, shape )
-
-// Takes over the reference.
-static SipsnHeaderSubscriptionState *CreateOwning( PbString *substateValue )
-{
-    SipsnHeaderSubscriptionState *hdr = pb::New< SipsnHeaderSubscriptionState >();
-    hdr->substateValue                = substateValue;
-    hdr->genericParams                = sipsnGenericParamsCreate();
-    return hdr;
-}
+SIPSN_DEFINE_HEADER( SubscriptionState, SIPSN_HEADER_SUBSCRIPTION_STATE, shape )
 
 SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateCreate( PbString *substateValue )
 {
     PB_ASSERT( sipsnSubstateValueOk( substateValue ) );
-    return CreateOwning( sipsnSubstateValueNormalize( substateValue ) );
+    return sipsn::NewWith( &SipsnHeaderSubscriptionState::substateValue, sipsnSubstateValueNormalize( substateValue ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -101,37 +106,4 @@ void sipsnHeaderSubscriptionStateSetGenericParams( SipsnHeaderSubscriptionState 
                                                    SipsnGenericParams            *genericParams )
 {
     PB_SET( hdr, genericParams, genericParams, pb::Retain( genericParams ) );
-}
-
-// ---- Text form -------------------------------------------------------------------------------------
-
-static bool TakeTypedParam( Cursor &in, SipsnHeaderSubscriptionState *hdr )
-{
-    return sipsn::TakeText( in, "reason", sipsn___SkipEventReasonValue, hdr->reason, sipsn::LowerFromChars ) ||
-           sipsn::TakeInt( in, "expires", sipsn___SkipDeltaSeconds, hdr->expires, sipsn___DeltaSecondsTryDecode ) ||
-           sipsn::TakeInt( in, "retry-after", sipsn___SkipDeltaSeconds, hdr->retryAfter,
-                           sipsn___DeltaSecondsTryDecode );
-}
-
-static SipsnHeaderSubscriptionState *TryDecode( PbString *line )
-{
-    Cursor     in{ line->chs, line->length };
-    const Span substateValue = in.Take( sipsn___SkipSubstateValue );
-    if( !substateValue ) return nullptr;
-
-    pb::Ref    hdr{ CreateOwning( sipsn::LowerFromChars( substateValue.chs, substateValue.length ) ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hdr.Get() ); };
-    return sipsn::TryDecodeParams( in, &hdr->genericParams, takeTyped ) ? hdr.Detach() : nullptr;
-}
-
-static PbString *EncodeLine( SipsnHeaderSubscriptionState *hdr )
-{
-    return sipsn::TextOf( [ & ]( auto &out ) {
-        out.Text( hdr->substateValue );
-        sipsn::ParamWriter params{ out, hdr->genericParams };
-        params.Text( "reason", hdr->reason );
-        params.Int( "expires", hdr->expires );
-        params.Int( "retry-after", hdr->retryAfter );
-        params.Generic();
-    } );
 }

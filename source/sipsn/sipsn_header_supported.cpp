@@ -3,8 +3,6 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 using sipsn::StringFrom;
 
@@ -13,25 +11,24 @@ struct SipsnHeaderSupported
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderSupported::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "optionTags", &SipsnHeaderSupported::items, sipsn::rule::optionTag ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderSupported, sipsn___PbsSupported, "Supported" )
+SIPSN_DEFINE_NAME( Supported, "Supported" )
 
-static constexpr sipsn::Set< SipsnHeaderSupported > shape{
-    .items  = &SipsnHeaderSupported::items,
-    .item   = sipsn___SkipOptionTag,
-    .stored = sipsn::LowerFromChars,
-};
+static constexpr sipsn::Set< SipsnHeaderSupported > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderSupported, sipsnHeaderSupported, SIPSN_HEADER_SUPPORTED, sipsn___PbsSupported, shape )
+SIPSN_DEFINE_HEADER( Supported, SIPSN_HEADER_SUPPORTED, shape )
 
 static PbString *Key( PbString *optionTag )
 {
     PB_ASSERT( sipsnOptionTagOk( optionTag ) );
     return sipsnOptionTagNormalize( optionTag );
 }
-SIPSN_DEFINE_SET( SipsnHeaderSupported, sipsnHeaderSupported, OptionTags, OptionTag, optionTag, Key )
+SIPSN_DEFINE_SET( Supported, OptionTags, OptionTag, optionTag, Key )
 
 SipsnHeaderSupported *sipsnHeaderSupportedCreate( void ) { return shape.Create(); }
 

@@ -4,20 +4,31 @@
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
+namespace sipsn::rule {
+
+static constexpr TextRule timestampValue{
+    .words = "a timestamp", .ok = sipsnTimestampValueOk, .production = sipsn___SkipTimestampValue };
+
+} // namespace sipsn::rule
+
 struct SipsnHeaderTimestamp
 {
     PbObj     obj;
     PbString *timestampValue;
 
-    using Members = pb::Members< &SipsnHeaderTimestamp::timestampValue >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "timestampValue", &SipsnHeaderTimestamp::timestampValue, sipsn::rule::timestampValue ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderTimestamp, sipsn___PbsTimestamp, "Timestamp" )
+SIPSN_DEFINE_NAME( Timestamp, "Timestamp" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderTimestamp > shape{ .text = &SipsnHeaderTimestamp::timestampValue,
-                                                                 .ok   = sipsnTimestampValueOk };
+static constexpr sipsn::WholeLine< SipsnHeaderTimestamp > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderTimestamp, sipsnHeaderTimestamp, SIPSN_HEADER_TIMESTAMP, sipsn___PbsTimestamp, shape )
+SIPSN_DEFINE_HEADER( Timestamp, SIPSN_HEADER_TIMESTAMP, shape )
 
 SipsnHeaderTimestamp *sipsnHeaderTimestampCreate( PbString *timestampValue )
 {

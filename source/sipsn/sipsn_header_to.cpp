@@ -1,45 +1,25 @@
 // SipsnHeaderTo: the To header field, RFC 3261 section 20.39, with the epid of some endpoints.
 #include "sipsn_header_to.h"
 
-#include "sipsn_header_address.h"
-#include "sipsn_header_from.h"
+#include "sipsn_dialog_party.h"
 #include "sipsn_header_internal.h"
 
-struct SipsnHeaderTo
-{
-    PbObj               obj;
-    PbString           *iri;
-    PbString           *displayName;
-    PbString           *tag;
-    PbString           *epid;
-    SipsnGenericParams *genericParams;
+SIPSN_DEFINE_NAME( To, "To" )
 
-    using Members = pb::Members< &SipsnHeaderTo::iri, &SipsnHeaderTo::displayName, &SipsnHeaderTo::tag,
-                                 &SipsnHeaderTo::epid, &SipsnHeaderTo::genericParams >;
-};
+static constexpr sipsn::LastLine< SipsnHeaderTo, sipsn::Address< SipsnHeaderTo > > shape{};
 
-SIPSN_DEFINE_NAME( sipsn___HeaderTo, sipsn___PbsTo, "To" )
-
-static constexpr auto shape = sipsn::dialogParty< SipsnHeaderTo >;
-
-SIPSN_DEFINE_HEADER( SipsnHeaderTo, sipsnHeaderTo, SIPSN_HEADER_TO, sipsn___PbsTo, shape )
+SIPSN_DEFINE_HEADER( To, SIPSN_HEADER_TO, shape )
 
 SipsnHeaderTo *sipsnHeaderToCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return shape.Create( pb::Retain( iri ) );
+    return sipsn::NewWith< SipsnHeaderTo >( &SipsnHeaderTo::iri, pb::Retain( iri ) );
 }
 
 SipsnHeaderTo *sipsnHeaderToCreateFromHeaderFrom( SipsnHeaderFrom *hdrFrom )
 {
     PB_ASSERT( hdrFrom );
-    SipsnHeaderTo *hdr = pb::New< SipsnHeaderTo >();
-    hdr->iri           = sipsnHeaderFromIri( hdrFrom );
-    hdr->displayName   = sipsnHeaderFromDisplayName( hdrFrom );
-    hdr->tag           = sipsnHeaderFromTag( hdrFrom );
-    hdr->epid          = sipsnHeaderFromEpid( hdrFrom );
-    hdr->genericParams = sipsnHeaderFromGenericParams( hdrFrom );
-    return hdr;
+    return sipsn::Turned< SipsnHeaderTo >( hdrFrom );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------

@@ -3,33 +3,29 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
 
 struct SipsnHeaderUnsupported
 {
     PbObj   obj;
     PbDict *items; // each to itself
 
-    using Members = pb::Members< &SipsnHeaderUnsupported::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Items( "optionTags", &SipsnHeaderUnsupported::items, sipsn::rule::optionTag ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderUnsupported, sipsn___PbsUnsupported, "Unsupported" )
+SIPSN_DEFINE_NAME( Unsupported, "Unsupported" )
 
-static constexpr sipsn::Set< SipsnHeaderUnsupported > shape{
-    .items  = &SipsnHeaderUnsupported::items,
-    .item   = sipsn___SkipOptionTag,
-    .stored = sipsn::LowerFromChars,
-};
+static constexpr sipsn::Set< SipsnHeaderUnsupported > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderUnsupported, sipsnHeaderUnsupported, SIPSN_HEADER_UNSUPPORTED, sipsn___PbsUnsupported,
-                     shape )
+SIPSN_DEFINE_HEADER( Unsupported, SIPSN_HEADER_UNSUPPORTED, shape )
 
 static PbString *Key( PbString *optionTag )
 {
     PB_ASSERT( sipsnOptionTagOk( optionTag ) );
     return sipsnOptionTagNormalize( optionTag );
 }
-SIPSN_DEFINE_SET( SipsnHeaderUnsupported, sipsnHeaderUnsupported, OptionTags, OptionTag, optionTag, Key )
+SIPSN_DEFINE_SET( Unsupported, OptionTags, OptionTag, optionTag, Key )
 
 SipsnHeaderUnsupported *sipsnHeaderUnsupportedCreate( void ) { return shape.Create(); }

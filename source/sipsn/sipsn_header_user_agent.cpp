@@ -4,20 +4,31 @@
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
 
+namespace sipsn::rule {
+
+static constexpr TextRule userAgent{
+    .words = "products and comments", .ok = sipsnUserAgentOk, .production = sipsn___SkipUserAgent };
+
+} // namespace sipsn::rule
+
 struct SipsnHeaderUserAgent
 {
     PbObj     obj;
     PbString *userAgent;
 
-    using Members = pb::Members< &SipsnHeaderUserAgent::userAgent >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "userAgent", &SipsnHeaderUserAgent::userAgent, sipsn::rule::userAgent ),
+        };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderUserAgent, sipsn___PbsUserAgent, "User-Agent" )
+SIPSN_DEFINE_NAME( UserAgent, "User-Agent" )
 
-static constexpr sipsn::WholeLine< SipsnHeaderUserAgent > shape{ .text = &SipsnHeaderUserAgent::userAgent,
-                                                                 .ok   = sipsnUserAgentOk };
+static constexpr sipsn::WholeLine< SipsnHeaderUserAgent > shape{};
 
-SIPSN_DEFINE_HEADER( SipsnHeaderUserAgent, sipsnHeaderUserAgent, SIPSN_HEADER_USER_AGENT, sipsn___PbsUserAgent, shape )
+SIPSN_DEFINE_HEADER( UserAgent, SIPSN_HEADER_USER_AGENT, shape )
 
 SipsnHeaderUserAgent *sipsnHeaderUserAgentCreate( PbString *userAgent )
 {

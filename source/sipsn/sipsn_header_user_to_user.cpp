@@ -3,28 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderUserToUser
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderUserToUser::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Values( "uuiValues", &SipsnHeaderUserToUser::items, sipsn___SkipUuiValue, sipsn::schemaUuiValue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderUserToUser, sipsn___PbsUserToUser, "User-to-User" )
+SIPSN_DEFINE_NAME( UserToUser, "User-to-User" )
 
-static constexpr sipsn::List< SipsnHeaderUserToUser > shape{
-    .items   = &SipsnHeaderUserToUser::items,
-    .item    = sipsn___SkipUuiValue,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-};
+static constexpr sipsn::List< SipsnHeaderUserToUser > shape{ .noLines = sipsn::NoLines::givesEmptyHeader };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderUserToUser, sipsnHeaderUserToUser, SIPSN_HEADER_USER_TO_USER, sipsn___PbsUserToUser,
-                     shape )
-SIPSN_DEFINE_LIST( SipsnHeaderUserToUser, sipsnHeaderUserToUser, UuiValues, UuiValue, SipsnUuiValue, uuiValue,
-                   sipsn___UuiValueEncode )
+SIPSN_DEFINE_HEADER( UserToUser, SIPSN_HEADER_USER_TO_USER, shape )
+SIPSN_DEFINE_LIST( UserToUser, UuiValues, UuiValue, SipsnUuiValue, uuiValue, sipsn___UuiValueEncode )
 
 SipsnHeaderUserToUser *sipsnHeaderUserToUserCreate( void ) { return shape.Create(); }
 void                   sipsnHeaderUserToUserClearUuiValues( SipsnHeaderUserToUser **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,26 +3,24 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderVia
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderVia::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "vias", &SipsnHeaderVia::items, sipsn___SkipVia, sipsn::schemaVia ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderVia, sipsn___PbsVia, "Via" )
+SIPSN_DEFINE_NAME( Via, "Via" )
 
-static constexpr sipsn::List< SipsnHeaderVia > shape{
-    .items   = &SipsnHeaderVia::items,
-    .item    = sipsn___SkipVia,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-};
+static constexpr sipsn::List< SipsnHeaderVia > shape{ .noLines = sipsn::NoLines::givesEmptyHeader };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderVia, sipsnHeaderVia, SIPSN_HEADER_VIA, sipsn___PbsVia, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderVia, sipsnHeaderVia, Vias, Via, SipsnVia, via, sipsn___ViaEncode )
+SIPSN_DEFINE_HEADER( Via, SIPSN_HEADER_VIA, shape )
+SIPSN_DEFINE_LIST( Via, Vias, Via, SipsnVia, via, sipsn___ViaEncode )
 
 SipsnHeaderVia *sipsnHeaderViaCreate( void ) { return shape.Create(); }
 void            sipsnHeaderViaClearVias( SipsnHeaderVia **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -3,27 +3,25 @@
 
 #include "sipsn_header_frame.h"
 #include "sipsn_header_internal.h"
-#include "sipsn_skip_internal.h"
 
 struct SipsnHeaderWarning
 {
     PbObj     obj;
     PbVector *items;
 
-    using Members = pb::Members< &SipsnHeaderWarning::items >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ sipsn::Values( "warnings", &SipsnHeaderWarning::items, sipsn___SkipWarningValue,
+                                           sipsn::schemaWarningValue ) };
+    }
 };
 
-SIPSN_DEFINE_NAME( sipsn___HeaderWarning, sipsn___PbsWarning, "Warning" )
+SIPSN_DEFINE_NAME( Warning, "Warning" )
 
-static constexpr sipsn::List< SipsnHeaderWarning > shape{
-    .items   = &SipsnHeaderWarning::items,
-    .item    = sipsn___SkipWarningValue,
-    .noLines = sipsn::NoLines::givesEmptyHeader,
-};
+static constexpr sipsn::List< SipsnHeaderWarning > shape{ .noLines = sipsn::NoLines::givesEmptyHeader };
 
-SIPSN_DEFINE_HEADER( SipsnHeaderWarning, sipsnHeaderWarning, SIPSN_HEADER_WARNING, sipsn___PbsWarning, shape )
-SIPSN_DEFINE_LIST( SipsnHeaderWarning, sipsnHeaderWarning, Warnings, Warning, SipsnWarningValue, warningValue,
-                   sipsn___WarningValueEncode )
+SIPSN_DEFINE_HEADER( Warning, SIPSN_HEADER_WARNING, shape )
+SIPSN_DEFINE_LIST( Warning, Warnings, Warning, SipsnWarningValue, warningValue, sipsn___WarningValueEncode )
 
 SipsnHeaderWarning *sipsnHeaderWarningCreate( void ) { return shape.Create(); }
 void                sipsnHeaderWarningWarningsClear( SipsnHeaderWarning **hdr ) { SIPSN_LIST_CLEAR( hdr ); }

@@ -1,14 +1,10 @@
 // SipsnHistoryInfo: one hi-entry, RFC 7044 section 5.
 #include "sipsn_history_info.h"
 
-#include "sipsn_display_name.h"
-#include "sipsn_history_info_index.h"
-#include "sipsn_iri.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+using sipsn::BasicCursor, sipsn::Span;
 
 struct SipsnHistoryInfo
 {
@@ -21,29 +17,29 @@ struct SipsnHistoryInfo
     PbString           *np;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnHistoryInfo::iri, &SipsnHistoryInfo::displayName, &SipsnHistoryInfo::index,
-                                 &SipsnHistoryInfo::rc, &SipsnHistoryInfo::mp, &SipsnHistoryInfo::np,
-                                 &SipsnHistoryInfo::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnHistoryInfo::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnHistoryInfo::displayName, sipsn::rule::displayName ),
+            sipsn::TextParam( "index", &SipsnHistoryInfo::index, sipsn::rule::historyInfoIndex ).Required(),
+            sipsn::TextParam( "rc", &SipsnHistoryInfo::rc, sipsn::rule::historyInfoIndex ),
+            sipsn::TextParam( "mp", &SipsnHistoryInfo::mp, sipsn::rule::historyInfoIndex ),
+            sipsn::TextParam( "np", &SipsnHistoryInfo::np, sipsn::rule::historyInfoIndex ),
+            sipsn::OtherParams( &SipsnHistoryInfo::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnHistoryInfo, sipsnHistoryInfo, SIPSN_HISTORY_INFO, hi, hi, sipsn___HistoryInfoEncode )
-
-// Takes over the references.
-static SipsnHistoryInfo *CreateOwning( PbString *iri, PbString *displayName, PbString *index )
-{
-    SipsnHistoryInfo *hi = pb::New< SipsnHistoryInfo >();
-    hi->iri              = iri;
-    hi->displayName      = displayName;
-    hi->index            = index;
-    hi->genericParams    = sipsnGenericParamsCreate();
-    return hi;
-}
 
 SipsnHistoryInfo *sipsnHistoryInfoCreate( PbString *iri, PbString *index )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
     PB_ASSERT( sipsnHistoryInfoIndexOk( index ) );
-    return CreateOwning( pb::Retain( iri ), nullptr, pb::Retain( index ) );
+    SipsnHistoryInfo *hi = sipsn::NewWith( &SipsnHistoryInfo::iri, pb::Retain( iri ) );
+    hi->index            = pb::Retain( index );
+    return hi;
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -100,54 +96,25 @@ void                sipsnHistoryInfoSetGenericParams( SipsnHistoryInfo **hi, Sip
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-// False when there is a display name that no address follows, or none at all: the angle brackets are required here.
-static bool TryTakeAddress( Cursor &in, sipsn::NameAddr *address )
+namespace {
+
+struct Form : sipsn::Address< SipsnHistoryInfo >
 {
-    if( Span name = in.Take( sipsn___SkipDisplayName ) ) {
-        PbString *displayName = sipsn::DisplayNameOf( name.chs, name.length );
-        PB_ASSERT( displayName );
-        address->displayName = pb::Ref{ displayName };
+    // The angle brackets are required here, whatever the display name is.
+    template< class Link > SipsnHistoryInfo *TryDecode( BasicCursor< Link > &in ) const
+    {
+        pb::Ref hi{ sipsn::New< SipsnHistoryInfo >() };
+        if( Span name = in.Take( sipsn___SkipDisplayName, "a display name" ) ) {
+            hi->displayName = sipsn::DisplayNameOf( name.chs, name.length );
+            PB_ASSERT( hi->displayName );
+        }
+        if( !( hi->iri = sipsn::TryTakeBracketedIri( in ) ) || !TryDecodeParams( in, *hi.Get() ) ) return nullptr;
+        return hi->index || in.Lacks( "an index" ) ? hi.Detach() : nullptr;
     }
-    address->iri = pb::Ref{ sipsn::TryTakeBracketedIri( in ) };
-    return bool( address->iri );
-}
+};
 
-static bool TakeTypedParam( Cursor &in, SipsnHistoryInfo *hi )
-{
-    return sipsn::TakeText( in, "index", sipsn___SkipHistoryInfoIndex, hi->index ) ||
-           sipsn::TakeText( in, "rc", sipsn___SkipHistoryInfoIndex, hi->rc ) ||
-           sipsn::TakeText( in, "mp", sipsn___SkipHistoryInfoIndex, hi->mp ) ||
-           sipsn::TakeText( in, "np", sipsn___SkipHistoryInfoIndex, hi->np );
-}
+constexpr Form form{};
 
-SipsnHistoryInfo *sipsn___HistoryInfoTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+} // namespace
 
-    Cursor          in{ chs, length };
-    sipsn::NameAddr address;
-    if( !TryTakeAddress( in, &address ) ) return nullptr;
-
-    pb::Ref    hi{ CreateOwning( address.iri.Detach(), address.displayName.Detach(), nullptr ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, hi.Get() ); };
-    if( !sipsn::TryDecodeParams( in, &hi->genericParams, takeTyped ) || !hi->index ) return nullptr;
-    return hi.Detach();
-}
-
-void sipsn::Write( TextWriter &out, SipsnHistoryInfo *hi )
-{
-    WriteNameAddr( out, hi->displayName, hi->iri );
-    ParamWriter params{ out, hi->genericParams };
-    params.Text( "index", hi->index );
-    params.Text( "rc", hi->rc );
-    params.Text( "mp", hi->mp );
-    params.Text( "np", hi->np );
-    params.Generic();
-}
-
-PbString *sipsn___HistoryInfoEncode( SipsnHistoryInfo *hi )
-{
-    PB_ASSERT( hi );
-    return sipsn::Encode( hi );
-}
+SIPSN_DEFINE_TEXT( HistoryInfo, hi, form )

@@ -1,8 +1,7 @@
 // SipsnIdentityValue: one value of P-Asserted-Identity or P-Preferred-Identity, RFC 3325 section 9.
 #include "sipsn_identity_value.h"
 
-#include "sipsn_display_name.h"
-#include "sipsn_iri.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
 struct SipsnIdentityValue
@@ -11,26 +10,23 @@ struct SipsnIdentityValue
     PbString *iri;
     PbString *displayName;
 
-    using Members = pb::Members< &SipsnIdentityValue::iri, &SipsnIdentityValue::displayName >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnIdentityValue::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnIdentityValue::displayName, sipsn::rule::displayName ),
+        };
+    }
 };
 
 // Comparison names its two values "routeA" and "routeB", as callers know it.
 SIPSN_DEFINE_TYPE( SipsnIdentityValue, sipsnIdentityValue, SIPSN_IDENTITY_VALUE, id, route,
                    sipsn___IdentityValueEncode )
 
-// Takes over the references.
-static SipsnIdentityValue *CreateOwning( PbString *iri, PbString *displayName )
-{
-    SipsnIdentityValue *id = pb::New< SipsnIdentityValue >();
-    id->iri                = iri;
-    id->displayName        = displayName;
-    return id;
-}
-
 SipsnIdentityValue *sipsnIdentityValueCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ), nullptr );
+    return sipsn::NewWith( &SipsnIdentityValue::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -51,21 +47,6 @@ void      sipsnIdentityValueSetDisplayName( SipsnIdentityValue **id, PbString *d
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-SipsnIdentityValue *sipsn___IdentityValueTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+static constexpr sipsn::Address< SipsnIdentityValue > form{};
 
-    sipsn::Cursor   in{ chs, length };
-    sipsn::NameAddr address;
-    if( !sipsn::TryTakeNameAddr( in, &address ) || !in.AtEnd() ) return nullptr;
-    return CreateOwning( address.iri.Detach(), address.displayName.Detach() );
-}
-
-void sipsn::Write( TextWriter &out, SipsnIdentityValue *id ) { WriteNameAddr( out, id->displayName, id->iri ); }
-
-PbString *sipsn___IdentityValueEncode( SipsnIdentityValue *id )
-{
-    PB_ASSERT( id );
-    return sipsn::Encode( id );
-}
+SIPSN_DEFINE_TEXT( IdentityValue, id, form )

@@ -11,7 +11,10 @@ struct SipsnVersion
     PbString *protocolName;
     PbString *protocolVersion;
 
-    using Members = pb::Members< &SipsnVersion::protocolName, &SipsnVersion::protocolVersion >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnVersion::protocolName, &SipsnVersion::protocolVersion };
+    }
 };
 
 // Nearly every header has one line, and then no vector for it.
@@ -22,8 +25,11 @@ struct SipsnMessageHeader
     PbString *onlyLine;    // null when there is none, and when there is `linesVector`
     PbVector *linesVector; // null as long as there is one line or none; it may hold any number
 
-    using Members =
-        pb::Members< &SipsnMessageHeader::name, &SipsnMessageHeader::onlyLine, &SipsnMessageHeader::linesVector >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnMessageHeader::name, &SipsnMessageHeader::onlyLine,
+                            &SipsnMessageHeader::linesVector };
+    }
     struct CompareOrder
     {
         static int64_t Compare( SipsnMessageHeader &a, SipsnMessageHeader &b );
@@ -42,11 +48,18 @@ struct SipsnMessageFragment
     int64_t       mayHold, mayHold64; // a bit for each known name of which there may be one; all ones know nothing
     PbBuffer     *body;
 
-    using Members =
-        pb::Members< &SipsnMessageFragment::requestMethod, &SipsnMessageFragment::requestIri,
-                     &SipsnMessageFragment::responseStatusCode, &SipsnMessageFragment::responseReasonPhrase,
-                     &SipsnMessageFragment::version, &SipsnMessageFragment::headers, &SipsnMessageFragment::mayHold,
-                     &SipsnMessageFragment::mayHold64, &SipsnMessageFragment::body >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnMessageFragment::requestMethod,
+                            &SipsnMessageFragment::requestIri,
+                            &SipsnMessageFragment::responseStatusCode,
+                            &SipsnMessageFragment::responseReasonPhrase,
+                            &SipsnMessageFragment::version,
+                            &SipsnMessageFragment::headers,
+                            &SipsnMessageFragment::mayHold,
+                            &SipsnMessageFragment::mayHold64,
+                            &SipsnMessageFragment::body };
+    }
     using CompareOrder = pb::ByAddress;
 };
 
@@ -55,7 +68,7 @@ struct SipsnMessage
     PbObj                 obj;
     SipsnMessageFragment *fragment;
 
-    using Members      = pb::Members< &SipsnMessage::fragment >;
+    static constexpr auto Members() { return pb::Members{ &SipsnMessage::fragment }; }
     using CompareOrder = pb::ByAddress;
 };
 

@@ -2,6 +2,7 @@
 #include "sipsn_message_stream_decoder.h"
 
 #include "sipsn_message_internal.h"
+#include "sipsn_value_internal.h"
 
 #include <algorithm>
 
@@ -14,14 +15,18 @@ struct SipsnMessageStreamDecoder
     int64_t       position; // where to search on for the empty line; while a message is pending, where its body begins
     int64_t       contentLength; // of the pending message
 
-    using Members      = pb::Members< &SipsnMessageStreamDecoder::error, &SipsnMessageStreamDecoder::buffer,
-                                 &SipsnMessageStreamDecoder::pending, &SipsnMessageStreamDecoder::position,
-                                 &SipsnMessageStreamDecoder::contentLength >;
+    static constexpr auto Members()
+    {
+        return pb::Members{ &SipsnMessageStreamDecoder::error, &SipsnMessageStreamDecoder::buffer,
+                            &SipsnMessageStreamDecoder::pending, &SipsnMessageStreamDecoder::position,
+                            &SipsnMessageStreamDecoder::contentLength };
+    }
     using CompareOrder = pb::ByAddress;
 };
 
 PB_DEFINE_OBJECT( SipsnMessageStreamDecoder, sipsnMessageStreamDecoder, sipsn___sort_SIPSN_MESSAGE_STREAM_DECODER,
                   "SIPSN_MESSAGE_STREAM_DECODER", sipsn___module, decoder, decoder, pb::sortNameAsText )
+SIPSN_DEFINE_SCHEMA( MessageStreamDecoder )
 
 SipsnMessageStreamDecoder *sipsnMessageStreamDecoderCreate( void )
 {

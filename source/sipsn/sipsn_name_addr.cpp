@@ -9,33 +9,39 @@
 namespace sipsn {
 
 // Reads a URI; the IRI that it stands for, or null. Every production that is used here matches whole IRIs alone.
-static PbString *TryTakeIri( Cursor &in, Production *production )
+template< class Link > static PbString *TryTakeIri( BasicCursor< Link > &in, Production *production )
 {
-    const Span uri = in.Take( production );
-    return uri ? iri___ConvertScannedUri( uri.chs, uri.length ) : nullptr;
+    const Span uri = in.Take( production, "a URI" );
+    PbString  *iri = uri ? iri___ConvertScannedUri( uri.chs, uri.length ) : nullptr;
+    if( uri && !iri ) in.Refuse( uri, "a URI" );
+    return iri;
 }
 
-PbString *TryTakeBracketedIri( Cursor &in )
+template< class Link > PbString *TryTakeBracketedIri( BasicCursor< Link > &in )
 {
     if( !in.Take( sipsn___SkipLaquot ) ) return nullptr;
     pb::Ref iri{ TryTakeIri( in, sipsn___SkipUri ) };
     return iri && in.Take( sipsn___SkipRaquot ) ? iri.Detach() : nullptr;
 }
 
-bool TryTakeNameAddr( Cursor &in, NameAddr *address, Production *bare )
+template< class Link > bool TryTakeNameAddr( BasicCursor< Link > &in, NameAddr *address, Production *bare )
 {
-    Cursor     ahead = in;
-    const Span name  = ahead.Take( sipsn___SkipDisplayName );
-    if( name && Cursor{ ahead }.Take( sipsn___SkipLaquot ) ) {
+    BasicCursor< Link > ahead = in;
+    const Span          name  = ahead.Take( sipsn___SkipDisplayName, "a display name" );
+    if( name && ahead.Sees( sipsn___SkipLaquot ) ) {
         PbString *displayName = DisplayNameOf( name.chs, name.length );
         PB_ASSERT( displayName );
         address->displayName = pb::Ref{ displayName };
         in                   = ahead;
     }
-    const bool bracketed = Cursor{ in }.Take( sipsn___SkipLaquot ) ? true : false;
-    address->iri         = pb::Ref{ bracketed ? TryTakeBracketedIri( in ) : TryTakeIri( in, bare ) };
+    address->iri = pb::Ref{ in.Sees( sipsn___SkipLaquot ) ? TryTakeBracketedIri( in ) : TryTakeIri( in, bare ) };
     return bool( address->iri );
 }
+
+template PbString *TryTakeBracketedIri( Cursor & );
+template PbString *TryTakeBracketedIri( WatchedCursor & );
+template bool      TryTakeNameAddr( Cursor &, NameAddr *, Production      *);
+template bool      TryTakeNameAddr( WatchedCursor &, NameAddr *, Production      *);
 
 void WriteNameAddr( TextWriter &out, PbString *displayName, PbString *iri )
 {

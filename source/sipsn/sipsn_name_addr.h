@@ -17,10 +17,10 @@ struct NameAddr
 // Reads [ display-name ] LAQUOT URI RAQUOT, or a bare URI that `bare` matches. A display name counts only before "<";
 // what only looks like one is read again as the beginning of a bare URI. False, with nothing to be used, when neither
 // form is there or the URI does not convert.
-bool TryTakeNameAddr( Cursor &in, NameAddr *address, Production *bare = sipsn___SkipAddrSpec );
+template< class Link > bool TryTakeNameAddr( BasicCursor< Link > &in, NameAddr *address, Production *bare );
 
 // Reads LAQUOT URI RAQUOT; the IRI, or null.
-PbString *TryTakeBracketedIri( Cursor &in );
+template< class Link > PbString *TryTakeBracketedIri( BasicCursor< Link > &in );
 
 // The display name, if there is one, and the URI of the IRI in angle brackets.
 void WriteNameAddr( TextWriter &out, PbString *displayName, PbString *iri );

@@ -1,11 +1,25 @@
 // SipsnReason: one reason-value, RFC 3326 section 2.
 #include "sipsn_reason.h"
 
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_reason_cause.h"
+#include "sipsn_reason_protocol.h"
+#include "sipsn_reason_text.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+namespace sipsn::rule {
+
+static constexpr TextRule reasonProtocol{
+    .words = "a protocol", .ok = sipsnReasonProtocolOk, .production = sipsn___SkipReasonProtocol };
+static constexpr TextRule reasonCause{
+    .words = "a cause", .ok = sipsnReasonCauseOk, .production = sipsn___SkipReasonCause };
+static constexpr TextRule reasonText{ .words      = "a quoted text",
+                                      .ok         = sipsnReasonTextOk,
+                                      .production = sipsn___SkipReasonText,
+                                      .decoded    = Unquote,
+                                      .encoded    = sipsn___QuotableStringEncode };
+
+} // namespace sipsn::rule
 
 struct SipsnReason
 {
@@ -15,25 +29,23 @@ struct SipsnReason
     PbString           *text;
     SipsnGenericParams *genericParams;
 
-    using Members =
-        pb::Members< &SipsnReason::protocol, &SipsnReason::cause, &SipsnReason::text, &SipsnReason::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "protocol", &SipsnReason::protocol, sipsn::rule::reasonProtocol ),
+            sipsn::TextParam( "cause", &SipsnReason::cause, sipsn::rule::reasonCause ),
+            sipsn::TextParam( "text", &SipsnReason::text, sipsn::rule::reasonText ),
+            sipsn::OtherParams( &SipsnReason::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnReason, sipsnReason, SIPSN_REASON, reason, reason, sipsn___ReasonEncode )
 
-// Takes over the reference.
-static SipsnReason *CreateOwning( PbString *protocol )
-{
-    SipsnReason *reason   = pb::New< SipsnReason >();
-    reason->protocol      = protocol;
-    reason->genericParams = sipsnGenericParamsCreate();
-    return reason;
-}
-
 SipsnReason *sipsnReasonCreate( PbString *reasonProtocol )
 {
     PB_ASSERT( sipsnReasonProtocolOk( reasonProtocol ) );
-    return CreateOwning( pb::Retain( reasonProtocol ) );
+    return sipsn::NewWith( &SipsnReason::protocol, pb::Retain( reasonProtocol ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -68,43 +80,6 @@ void                sipsnReasonSetGenericParams( SipsnReason **reason, SipsnGene
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-// A cause or a text whose value does not fit its member is a generic parameter.
-static bool TakeTypedParam( Cursor &in, SipsnReason *reason )
-{
-    if( sipsn::TakeText( in, "cause", sipsn___SkipDigits, reason->cause ) ) return true;
-    if( Span quoted = in.Param( "text", sipsn___SkipQuotedString ) ) {
-        pb::Set( reason->text, sipsn::Unquote( quoted.chs, quoted.length ) );
-        PB_ABORT_UNLESS( nullptr, "(*reason)->text", reason->text );
-        return true;
-    }
-    return false;
-}
+static constexpr sipsn::Params< SipsnReason > form{};
 
-SipsnReason *sipsn___ReasonTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    Cursor in{ chs, length };
-    Span   protocol = in.Take( sipsn___SkipReasonProtocol );
-    if( !protocol ) return nullptr;
-
-    pb::Ref    reason{ CreateOwning( protocol.ToString() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, reason.Get() ); };
-    return sipsn::TryDecodeParams( in, &reason->genericParams, takeTyped ) ? reason.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnReason *reason )
-{
-    out.Text( reason->protocol );
-    ParamWriter params{ out, reason->genericParams };
-    params.Text( "cause", reason->cause );
-    if( reason->text ) params.Owned( "text", sipsn___QuotableStringEncode( reason->text ) );
-    params.Generic();
-}
-
-PbString *sipsn___ReasonEncode( SipsnReason *reason )
-{
-    PB_ASSERT( reason );
-    return sipsn::Encode( reason );
-}
+SIPSN_DEFINE_TEXT( Reason, reason, form )

@@ -1,11 +1,8 @@
 // SipsnRoute: one route-param, RFC 3261 sections 20.30 and 20.34.
 #include "sipsn_route.h"
 
-#include "sipsn_display_name.h"
-#include "sipsn_iri.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
-
-using sipsn::Cursor;
 
 struct SipsnRoute
 {
@@ -14,25 +11,22 @@ struct SipsnRoute
     PbString           *displayName;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnRoute::iri, &SipsnRoute::displayName, &SipsnRoute::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "iri", &SipsnRoute::iri, sipsn::rule::iri ),
+            sipsn::OptionalText( "displayName", &SipsnRoute::displayName, sipsn::rule::displayName ),
+            sipsn::OtherParams( &SipsnRoute::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnRoute, sipsnRoute, SIPSN_ROUTE, route, route, sipsn___RouteEncode )
 
-// Takes over the references.
-static SipsnRoute *CreateOwning( PbString *iri, PbString *displayName )
-{
-    SipsnRoute *route    = pb::New< SipsnRoute >();
-    route->iri           = iri;
-    route->displayName   = displayName;
-    route->genericParams = sipsnGenericParamsCreate();
-    return route;
-}
-
 SipsnRoute *sipsnRouteCreate( PbString *iri )
 {
     PB_ASSERT( sipsnIriOk( iri ) );
-    return CreateOwning( pb::Retain( iri ), nullptr );
+    return sipsn::NewWith( &SipsnRoute::iri, pb::Retain( iri ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -59,28 +53,6 @@ void                sipsnRouteSetGenericParams( SipsnRoute **route, SipsnGeneric
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-SipsnRoute *sipsn___RouteTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+static constexpr sipsn::Address< SipsnRoute > form{};
 
-    Cursor          in{ chs, length };
-    sipsn::NameAddr address;
-    if( !sipsn::TryTakeNameAddr( in, &address ) ) return nullptr;
-
-    pb::Ref    route{ CreateOwning( address.iri.Detach(), address.displayName.Detach() ) };
-    const auto takeTyped = []( Cursor & ) { return false; };
-    return sipsn::TryDecodeParams( in, &route->genericParams, takeTyped ) ? route.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnRoute *route )
-{
-    WriteNameAddr( out, route->displayName, route->iri );
-    Write( out, route->genericParams );
-}
-
-PbString *sipsn___RouteEncode( SipsnRoute *route )
-{
-    PB_ASSERT( route );
-    return sipsn::Encode( route );
-}
+SIPSN_DEFINE_TEXT( Route, route, form )

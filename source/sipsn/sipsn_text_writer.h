@@ -1,14 +1,10 @@
-// Writing wire text: what encoders append to, and the parameters behind a value. C++ only; never installed.
+// Writing wire text: what encoders append to. C++ only; never installed.
 #pragma once
 
 #include "sipsn_internal.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
-
-struct SipsnGenericParams;
-struct SipsnGenericParam;
 
 namespace sipsn {
 
@@ -61,64 +57,5 @@ template< class Write > PbString *TextOf( Write write )
     write( out );
     return out.ToString();
 }
-
-// Writes the parameters of a value: the typed members in the order of the calls, each only when it is present, and then
-// the generic parameters but for those whose name a typed member has taken.
-class ParamWriter
-{
-public:
-    ParamWriter( TextWriter &out, SipsnGenericParams *generic ) : out_{ out }, generic_{ generic } {}
-
-    void Text( std::string_view name, PbString *value ) // as it stands; null is absent
-    {
-        if( !value ) return;
-        Begin( name );
-        out_.Text( value );
-    }
-    void Owned( std::string_view name, PbString *owned ) // the same for a fresh string, which is released
-    {
-        pb::Ref value{ owned };
-        Text( name, value.Get() );
-    }
-    void Int( std::string_view name, int64_t value ) // -1 is absent
-    {
-        if( value == -1 ) return;
-        Begin( name );
-        out_.Int( value );
-    }
-    void Quoted( std::string_view name, PbString *value ) // between double quotes, without escapes
-    {
-        if( !value ) return;
-        Begin( name );
-        out_.Char( '"' );
-        out_.Text( value );
-        out_.Char( '"' );
-    }
-    void Flag( std::string_view name, bool present )
-    {
-        if( present ) Mark( name );
-    }
-    void Generic(); // last
-
-private:
-    void Begin( std::string_view name )
-    {
-        Mark( name );
-        out_.Char( '=' );
-    }
-    void Mark( std::string_view name )
-    {
-        PB_ASSERT( takenCount_ < taken_.size() );
-        taken_[ takenCount_++ ] = name;
-        out_.Char( ';' );
-        out_.Ascii( name );
-    }
-    bool IsTaken( PbString *name ) const;
-
-    TextWriter                       &out_;
-    SipsnGenericParams               *generic_;
-    std::array< std::string_view, 8 > taken_; // as many as the type with the most has
-    size_t                            takenCount_ = 0;
-};
 
 } // namespace sipsn

@@ -13,6 +13,7 @@
 //     }
 #pragma once
 
+#include "pb/pb_format.h"
 #include "pb/pb_internal.h"
 #include "sipsn_cursor.h"
 

@@ -2,11 +2,17 @@
 #include "sipsn_uui_value.h"
 
 #include "sipsn_quotable_string.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+namespace sipsn::rule {
+
+static bool IsUuiData( PbString *uuiData ) { return sipsnTokenOk( uuiData ) || sipsnQuotableStringOk( uuiData ); }
+
+// Quoted data does not decode.
+static constexpr TextRule uuiData{ .words = "data", .ok = IsUuiData, .production = sipsn___SkipToken };
+
+} // namespace sipsn::rule
 
 struct SipsnUuiValue
 {
@@ -17,25 +23,24 @@ struct SipsnUuiValue
     PbString           *content;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnUuiValue::uuiData, &SipsnUuiValue::encoding, &SipsnUuiValue::purpose,
-                                 &SipsnUuiValue::content, &SipsnUuiValue::genericParams >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Text( "uuiData", &SipsnUuiValue::uuiData, sipsn::rule::uuiData ),
+            sipsn::TextParam( "encoding", &SipsnUuiValue::encoding, sipsn::rule::token ),
+            sipsn::TextParam( "purpose", &SipsnUuiValue::purpose, sipsn::rule::token ),
+            sipsn::TextParam( "content", &SipsnUuiValue::content, sipsn::rule::token ),
+            sipsn::OtherParams( &SipsnUuiValue::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnUuiValue, sipsnUuiValue, SIPSN_UUI_VALUE, value, value, sipsn___UuiValueEncode )
 
-// Takes over the reference.
-static SipsnUuiValue *CreateOwning( PbString *uuiData )
-{
-    SipsnUuiValue *value = pb::New< SipsnUuiValue >();
-    value->uuiData       = uuiData;
-    value->genericParams = sipsnGenericParamsCreate();
-    return value;
-}
-
 SipsnUuiValue *sipsnUuiValueCreate( PbString *uuiData )
 {
     PB_ASSERT( sipsnTokenOk( uuiData ) || sipsnQuotableStringOk( uuiData ) );
-    return CreateOwning( pb::Retain( uuiData ) );
+    return sipsn::NewWith( &SipsnUuiValue::uuiData, pb::Retain( uuiData ) );
 }
 
 // ---- Accessors -------------------------------------------------------------------------------------
@@ -78,43 +83,23 @@ void                sipsnUuiValueSetGenericParams( SipsnUuiValue **value, SipsnG
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-static bool TakeTypedParam( Cursor &in, SipsnUuiValue *value )
+namespace {
+
+struct Form : sipsn::Params< SipsnUuiValue >
 {
-    return sipsn::TakeText( in, "encoding", sipsn___SkipToken, value->encoding ) ||
-           sipsn::TakeText( in, "purpose", sipsn___SkipToken, value->purpose ) ||
-           sipsn::TakeText( in, "content", sipsn___SkipToken, value->content );
-}
+    // Data that is not a token would have to be quoted, which the decoder refuses.
+    void Write( sipsn::TextWriter &out, SipsnUuiValue &value ) const
+    {
+        if( sipsnTokenOk( value.uuiData ) ) out.Text( value.uuiData );
+        WriteParams( out, value );
+    }
+};
 
-SipsnUuiValue *sipsn___UuiValueTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+constexpr Form form{};
 
-    Cursor in{ chs, length };
-    Span   uuiData = in.Take( sipsn___SkipToken ); // a quoted string is refused
-    if( !uuiData ) return nullptr;
+} // namespace
 
-    pb::Ref    value{ CreateOwning( uuiData.ToString() ) };
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, value.Get() ); };
-    return sipsn::TryDecodeParams( in, &value->genericParams, takeTyped ) ? value.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnUuiValue *value )
-{
-    // Other data would have to be quoted, which the decoder refuses.
-    if( sipsnTokenOk( value->uuiData ) ) out.Text( value->uuiData );
-    ParamWriter params{ out, value->genericParams };
-    params.Text( "encoding", value->encoding );
-    params.Text( "purpose", value->purpose );
-    params.Text( "content", value->content );
-    params.Generic();
-}
-
-PbString *sipsn___UuiValueEncode( SipsnUuiValue *value )
-{
-    PB_ASSERT( value );
-    return sipsn::Encode( value );
-}
+SIPSN_DEFINE_TEXT( UuiValue, value, form )
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 

@@ -1,18 +1,29 @@
 // SipsnVia: one via-parm, RFC 3261 section 20.42.
 #include "sipsn_via.h"
 
-#include "sipsn_branch.h"
-#include "sipsn_host.h"
 #include "sipsn_message_internal.h"
-#include "sipsn_port.h"
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_frame.h"
-#include "sipsn_token_internal.h"
-#include "sipsn_transport.h"
-#include "sipsn_ttl.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::Cursor, sipsn::Span;
+using sipsn::BasicCursor, sipsn::Cursor, sipsn::Span, sipsn::TextWriter;
+
+namespace sipsn::rule {
+
+static constexpr TextRule transport{ .words      = "a transport",
+                                     .ok         = sipsnTransportOk,
+                                     .production = sipsn___SkipTransport,
+                                     .decoded    = sipsn::LowerFromChars,
+                                     .normal     = sipsn::ToLower,
+                                     .encoded    = sipsn::ToUpper };
+
+static constexpr IntRule ttl{ .words      = "a ttl",
+                              .ok         = sipsnTtlOk,
+                              .lowest     = 0,
+                              .highest    = 255,
+                              .production = sipsn___SkipTtl,
+                              .decoded    = DecimalFromChars };
+
+} // namespace sipsn::rule
 
 struct SipsnVia
 {
@@ -29,13 +40,29 @@ struct SipsnVia
     PbString           *branch;
     SipsnGenericParams *genericParams;
 
-    using Members = pb::Members< &SipsnVia::version, &SipsnVia::transport, &SipsnVia::host, &SipsnVia::port,
-                                 &SipsnVia::ttl, &SipsnVia::maddr, &SipsnVia::received, &SipsnVia::rportEmpty,
-                                 &SipsnVia::rport, &SipsnVia::branch, &SipsnVia::genericParams >;
-    // Without rport: a response's Via that it was filled into is still that of the request.
-    using CompareOrder =
-        pb::Members< &SipsnVia::version, &SipsnVia::transport, &SipsnVia::host, &SipsnVia::port, &SipsnVia::ttl,
-                     &SipsnVia::maddr, &SipsnVia::received, &SipsnVia::branch, &SipsnVia::genericParams >;
+    // Vias compare without rport: a response's Via that it was filled into is still that of the request. Its numeric
+    // form is written as the parameter, but read as a generic one.
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Version( "version", &SipsnVia::version ),
+            sipsn::Text( "transport", &SipsnVia::transport, sipsn::rule::transport ),
+            sipsn::Text( "host", &SipsnVia::host, sipsn::rule::host ),
+            sipsn::OptionalInt( "port", &SipsnVia::port, sipsn::rule::port ),
+            sipsn::IntParam( "ttl", &SipsnVia::ttl, sipsn::rule::ttl ),
+            sipsn::TextParam( "maddr", &SipsnVia::maddr, sipsn::rule::host ),
+            sipsn::AddressParam( "received", &SipsnVia::received ),
+            sipsn::FlagParam( "rport", &SipsnVia::rportEmpty, "rportEmpty" )
+                .Excluding( &SipsnVia::rport )
+                .NotCompared(),
+            sipsn::IntParam( "rport", &SipsnVia::rport, sipsn::rule::port )
+                .Unread()
+                .Excluding( &SipsnVia::rportEmpty )
+                .NotCompared(),
+            sipsn::TextParam( "branch", &SipsnVia::branch, sipsn::rule::branch ),
+            sipsn::OtherParams( &SipsnVia::genericParams ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnVia, sipsnVia, SIPSN_VIA, via, via, sipsn___ViaEncode )
@@ -43,23 +70,15 @@ SIPSN_DEFINE_TYPE( SipsnVia, sipsnVia, SIPSN_VIA, via, via, sipsn___ViaEncode )
 static PbString *udp;
 static PbString *localhost;
 
-// Takes over the references.
-static SipsnVia *CreateOwning( SipsnVersion *version, PbString *transport, PbString *host )
-{
-    SipsnVia *via      = pb::New< SipsnVia >();
-    via->version       = version;
-    via->transport     = transport;
-    via->host          = host;
-    via->genericParams = sipsnGenericParamsCreate();
-    return via;
-}
-
 SipsnVia *sipsnViaCreate( SipsnVersion *version, PbString *transport, PbString *host )
 {
     PB_ASSERT( version );
     PB_ASSERT( sipsnTransportOk( transport ) );
     PB_ASSERT( sipsnHostOk( host ) );
-    return CreateOwning( pb::Retain( version ), sipsnTransportNormalize( transport ), pb::Retain( host ) );
+    SipsnVia *via  = sipsn::NewWith( &SipsnVia::version, pb::Retain( version ) );
+    via->transport = sipsnTransportNormalize( transport );
+    via->host      = pb::Retain( host );
+    return via;
 }
 
 SipsnVia *sipsnViaCreateWithPort( SipsnVersion *version, PbString *transport, PbString *host, int64_t port )
@@ -152,96 +171,54 @@ void                sipsnViaSetGenericParams( SipsnVia **via, SipsnGenericParams
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-static bool TakeReceived( Cursor &in, SipsnVia *via )
-{
-    Span text = in.Param( "received", sipsn___SkipIpV6Address );
-    if( !text ) text = in.Param( "received", sipsn___SkipIpV4Address );
-    if( !text ) return false;
-    InAddress *ina = inAddressTryCreateFromChars( text.chs, text.length );
-    PB_ASSERT( ina );
-    pb::Set( via->received, ina );
-    return true;
-}
-
-static bool TakeTypedParam( Cursor &in, SipsnVia *via )
-{
-    return sipsn::TakeInt( in, "ttl", sipsn___SkipTtl, via->ttl, sipsn___TtlTryDecode ) ||
-           sipsn::TakeText( in, "maddr", sipsn___SkipHost, via->maddr, sipsn___HostTryDecode ) ||
-           TakeReceived( in, via ) || sipsn::TakeFlag( in, "rport", via->rportEmpty ) ||
-           sipsn::TakeText( in, "branch", sipsn___SkipBranch, via->branch );
-}
-
-// [ COLON port ]; false when a colon has no valid port behind it.
-static bool TryTakePort( Cursor &in, SipsnVia *via )
-{
-    if( !in.Take( sipsn___SkipColon ) ) return true;
-    Span digits = in.Take( sipsn___SkipPort );
-    if( !digits ) return false;
-    via->port = sipsn___PortTryDecode( digits.chs, digits.length );
-    return sipsnPortOk( via->port );
-}
-
 // The version up to the SLASH behind it; null when there is none. "SIP/2.0" is not scanned twice.
-static SipsnVersion *TryTakeVersion( Cursor &in )
+template< class Link > static SipsnVersion *TryTakeVersion( BasicCursor< Link > &in )
 {
-    Cursor ahead = in;
-    if( ahead.Text( "SIP/2.0" ) && ahead.Take( PbChar{ '/' } ) ) {
+    if( Cursor ahead{ in.Rest() }; ahead.Text( "SIP/2.0" ) && ahead.Take( PbChar{ '/' } ) ) {
         in.Text( "SIP/2.0" );
         return sipsnVersionCreateSip20();
     }
-    const Span text = in.Take( sipsn___SkipVersion );
+    const Span text = in.Take( sipsn___SkipVersion, "a protocol version" );
     return text ? sipsn___VersionTryDecode( text.chs, text.length ) : nullptr;
 }
 
-SipsnVia *sipsn___ViaTryDecode( const PbChar *chs, int64_t length )
+namespace {
+
+struct Form
 {
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    Cursor  in{ chs, length };
-    pb::Ref version{ TryTakeVersion( in ) };
-    if( !version || !in.Take( sipsn___SkipSlash ) ) return nullptr;
-    Span transport = in.Take( sipsn___SkipTransport );
-    if( !transport || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    Span    hostText = in.Take( sipsn___SkipHost );
-    pb::Ref host{ hostText ? sipsn___HostTryDecode( hostText.chs, hostText.length ) : nullptr };
-    if( !host ) return nullptr;
-
-    pb::Ref via{
-        CreateOwning( version.Detach(), sipsn::LowerFromChars( transport.chs, transport.length ), host.Detach() ) };
-    if( !TryTakePort( in, via.Get() ) ) return nullptr;
-    const auto takeTyped = [ & ]( Cursor &at ) { return TakeTypedParam( at, via.Get() ); };
-    return sipsn::TryDecodeParams( in, &via->genericParams, takeTyped ) ? via.Detach() : nullptr;
-}
-
-void sipsn::Write( TextWriter &out, SipsnVia *via )
-{
-    out.Text( via->version->protocolName );
-    out.Char( '/' );
-    out.Text( via->version->protocolVersion );
-    out.Char( '/' );
-    out.Take( ToUpper( via->transport ) );
-    out.Char( ' ' );
-    out.Take( sipsn___HostEncode( via->host ) );
-    if( pb::Has( via->port ) ) {
-        out.Char( ':' );
-        out.Int( via->port );
+    template< class Link > SipsnVia *TryDecode( BasicCursor< Link > &in ) const
+    {
+        pb::Ref version{ TryTakeVersion( in ) };
+        if( !version || !in.Take( sipsn___SkipSlash ) ) return nullptr;
+        pb::Ref via{ sipsn::NewWith( &SipsnVia::version, version.Detach() ) };
+        if( !( via->transport = TryTake( in, sipsn::rule::transport ) ) || !in.Take( sipsn___SkipLws ) ) return nullptr;
+        if( !( via->host = TryTake( in, sipsn::rule::host ) ) ) return nullptr;
+        if( in.Take( sipsn___SkipColon ) && ( via->port = TryTake( in, sipsn::rule::port ) ) < 0 ) return nullptr;
+        return TryDecodeParams( in, *via.Get() ) ? via.Detach() : nullptr;
     }
-    ParamWriter params{ out, via->genericParams };
-    params.Int( "ttl", via->ttl );
-    if( via->maddr ) params.Owned( "maddr", sipsn___HostEncode( via->maddr ) );
-    if( via->received ) params.Owned( "received", inAddressToStringShrink( via->received ) );
-    params.Flag( "rport", via->rportEmpty );
-    params.Int( "rport", via->rport );
-    params.Text( "branch", via->branch );
-    params.Generic();
-}
 
-PbString *sipsn___ViaEncode( SipsnVia *via )
-{
-    PB_ASSERT( via );
-    return sipsn::Encode( via );
-}
+    void Write( TextWriter &out, SipsnVia &via ) const
+    {
+        out.Text( via.version->protocolName );
+        out.Char( '/' );
+        out.Text( via.version->protocolVersion );
+        out.Char( '/' );
+        sipsn::Write( out, sipsn::rule::transport, via.transport );
+        out.Char( ' ' );
+        sipsn::Write( out, sipsn::rule::host, via.host );
+        if( pb::Has( via.port ) ) {
+            out.Char( ':' );
+            out.Int( via.port );
+        }
+        WriteParams( out, via );
+    }
+};
+
+constexpr Form form{};
+
+} // namespace
+
+SIPSN_DEFINE_TEXT( Via, via, form )
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 

@@ -1,11 +1,31 @@
 // SipsnWarningValue: one warning-value, RFC 3261 section 20.43.
 #include "sipsn_warning_value.h"
 
-#include "sipsn_skip_internal.h"
-#include "sipsn_token_internal.h"
+#include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
+#include "sipsn_warn_agent.h"
+#include "sipsn_warn_code.h"
+#include "sipsn_warn_text.h"
 
-using sipsn::Cursor, sipsn::Span;
+using sipsn::BasicCursor;
+
+namespace sipsn::rule {
+
+static constexpr IntRule  warnCode{ .words      = "a warning code",
+                                    .ok         = sipsnWarnCodeOk,
+                                    .lowest     = 0,
+                                    .highest    = 999,
+                                    .production = sipsn___SkipWarnCode,
+                                    .decoded    = sipsn___WarnCodeDecode };
+static constexpr TextRule warnAgent{
+    .words = "a host or a name", .ok = sipsnWarnAgentOk, .production = sipsn___SkipWarnAgent };
+static constexpr TextRule warnText{ .words      = "a quoted text",
+                                    .ok         = sipsnWarnTextOk,
+                                    .production = sipsn___SkipWarnText,
+                                    .decoded    = Unquote,
+                                    .encoded    = sipsn___QuotableStringEncode };
+
+} // namespace sipsn::rule
 
 struct SipsnWarningValue
 {
@@ -14,8 +34,14 @@ struct SipsnWarningValue
     PbString *warnAgent;
     PbString *warnText;
 
-    using Members =
-        pb::Members< &SipsnWarningValue::warnCode, &SipsnWarningValue::warnAgent, &SipsnWarningValue::warnText >;
+    static constexpr auto Members()
+    {
+        return pb::Members{
+            sipsn::Int( "warnCode", &SipsnWarningValue::warnCode, sipsn::rule::warnCode ),
+            sipsn::Text( "warnAgent", &SipsnWarningValue::warnAgent, sipsn::rule::warnAgent ),
+            sipsn::Text( "warnText", &SipsnWarningValue::warnText, sipsn::rule::warnText ),
+        };
+    }
 };
 
 SIPSN_DEFINE_TYPE( SipsnWarningValue, sipsnWarningValue, SIPSN_WARNING_VALUE, wv, wv, sipsn___WarningValueEncode )
@@ -26,6 +52,7 @@ static SipsnWarningValue *CreateOwning( int64_t warnCode, PbString *warnAgent, P
     PB_ASSERT( sipsnWarnCodeOk( warnCode ) );
     PB_ASSERT( sipsnWarnAgentOk( warnAgent ) );
     PB_ASSERT( sipsnWarnTextOk( warnText ) );
+
     SipsnWarningValue *wv = pb::New< SipsnWarningValue >();
     wv->warnCode          = warnCode;
     wv->warnAgent         = warnAgent;
@@ -67,33 +94,24 @@ void      sipsnWarningValueSetWarnText( SipsnWarningValue **wv, PbString *warnTe
 
 // ---- Text form -------------------------------------------------------------------------------------
 
-SipsnWarningValue *sipsn___WarningValueTryDecode( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
+namespace {
 
-    Cursor in{ chs, length };
-    Span   code = in.Take( sipsn___SkipWarnCode );
-    if( !code || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    Span agent = in.Take( sipsn___SkipWarnAgent );
-    if( !agent || !in.Take( sipsn___SkipLws ) ) return nullptr;
-    Span text = in.Take( sipsn___SkipWarnText );
-    if( !text ) return nullptr;
-    return CreateOwning( sipsn___WarnCodeDecode( code.chs, code.length ), agent.ToString(),
-                         sipsn::Unquote( text.chs, text.length ) );
-}
-
-void sipsn::Write( TextWriter &out, SipsnWarningValue *wv )
+// What follows the text is not looked at.
+struct Form : sipsn::Words< SipsnWarningValue >
 {
-    out.Int( wv->warnCode );
-    out.Char( ' ' );
-    out.Text( wv->warnAgent );
-    out.Char( ' ' );
-    out.Take( sipsn___QuotableStringEncode( wv->warnText ) );
-}
+    template< class Link > SipsnWarningValue *TryDecode( BasicCursor< Link > &in ) const
+    {
+        const int64_t warnCode = TryTake( in, sipsn::rule::warnCode );
+        if( warnCode < 0 || !in.Take( sipsn___SkipLws ) ) return nullptr;
+        pb::Ref warnAgent{ TryTake( in, sipsn::rule::warnAgent ) };
+        if( !warnAgent || !in.Take( sipsn___SkipLws ) ) return nullptr;
+        PbString *warnText = TryTake( in, sipsn::rule::warnText );
+        return warnText ? CreateOwning( warnCode, warnAgent.Detach(), warnText ) : nullptr;
+    }
+};
 
-PbString *sipsn___WarningValueEncode( SipsnWarningValue *wv )
-{
-    PB_ASSERT( wv );
-    return sipsn::Encode( wv );
-}
+constexpr Form form{};
+
+} // namespace
+
+SIPSN_DEFINE_TEXT( WarningValue, wv, form )

@@ -61,7 +61,7 @@ TEST( CursorTest, ParamIsKeywordEqualValue )
     for( const auto &[ text, value, rest ] : cases ) {
         const auto characters = Characters( text );
         Cursor     in         = Over( characters );
-        EXPECT_TRUE( in.Param( "ttl", sipsn___SkipDigits ) == value ) << text;
+        EXPECT_TRUE( in.Param( "ttl", sipsn___SkipDigits, "a value" ) == value ) << text;
         EXPECT_TRUE( in.Rest() == rest ) << text;
     }
 }
