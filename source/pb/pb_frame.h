@@ -233,8 +233,11 @@ template< class... Rows > struct Members
     // Calls `visit( row )` with each row in turn, as long as it returns true; whether it always did.
     template< class Visit > [[gnu::always_inline]] constexpr bool All( Visit visit ) const
     {
-        return std::apply(
-            [ & ]( const Rows &...row ) __attribute__( ( always_inline ) ) { return ( visit( row ) && ... ); }, rows );
+        const auto visitAll = [ & ]< size_t... n >( std::index_sequence< n... > ) __attribute__( ( always_inline ) )
+        {
+            return ( visit( std::get< n >( rows ) ) && ... );
+        };
+        return visitAll( std::index_sequence_for< Rows... >{} );
     }
 
     template< class T > [[gnu::always_inline]] void Init( T &object ) const

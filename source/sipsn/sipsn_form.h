@@ -1,5 +1,5 @@
-// What values and the lines of single-valued header fields look like: forms that several types have, and what every form
-// is read and written with. C++ only; never installed.
+// What values and the lines of single-valued header fields look like: forms that several types have, and what every
+// form is read and written with. C++ only; never installed.
 //
 // A form reads a value with any cursor, which gives null where the text is none, and writes it:
 //
@@ -50,7 +50,8 @@ template< class Link, class T > [[gnu::always_inline]] inline bool TakeTypedPara
 // whether it did; every other one goes into the generic parameters. What a typed parameter leaves unread must begin
 // with the next SEMI.
 template< class Link, class TakeTyped >
-[[gnu::always_inline]] inline bool TryDecodeParams( BasicCursor< Link > &in, SipsnGenericParams **generic, TakeTyped takeTyped, Rest rest )
+[[gnu::always_inline]] inline bool TryDecodeParams( BasicCursor< Link > &in, SipsnGenericParams **generic,
+                                                    TakeTyped takeTyped, Rest rest )
 {
     while( !in.AtEnd() ) {
         if( !in.Take( sipsn___SkipSemi ) ) return rest == Rest::isIgnored;
@@ -63,9 +64,13 @@ template< class Link, class TakeTyped >
 }
 
 // The same with the members that the value's table calls parameters.
-template< class Link, class T > bool TryDecodeParams( BasicCursor< Link > &in, T &value, Rest rest = Rest::fails )
+template< class Link, class T >
+[[gnu::always_inline]] inline bool TryDecodeParams( BasicCursor< Link > &in, T &value, Rest rest = Rest::fails )
 {
-    const auto takeTyped = [ & ]( BasicCursor< Link > &at ) __attribute__( ( always_inline ) ) { return TakeTypedParam( at, value ); };
+    const auto takeTyped = [ & ]( BasicCursor< Link > & at ) __attribute__( ( always_inline ) )
+    {
+        return TakeTypedParam( at, value );
+    };
     return TryDecodeParams( in, &value.genericParams, takeTyped, rest );
 }
 
@@ -216,9 +221,11 @@ template< class T > struct Address
 private:
     template< class Link > T *TryDecode( BasicCursor< Link > &in, Production *bareForm ) const
     {
-        NameAddr address;
+        NameAddr       address;
         constexpr bool named = requires( T value ) { value.displayName; };
-        if( named ? !TryTakeNameAddr( in, &address, bareForm ) : !( address.iri = pb::Ref{ TryTakeBracketedIri( in ) } ) ) return nullptr;
+        if( named ? !TryTakeNameAddr( in, &address, bareForm )
+                  : !( address.iri = pb::Ref{ TryTakeBracketedIri( in ) } ) )
+            return nullptr;
         pb::Ref value{ NewWith< T >( &T::iri, address.iri.Detach() ) };
         if constexpr( named ) value->displayName = address.displayName.Detach();
         if constexpr( requires { value->genericParams; } )
@@ -233,9 +240,9 @@ template< class T > struct Words
 {
     template< class Link > T *TryDecode( BasicCursor< Link > &in ) const
     {
-        pb::Ref value{ New< T >() };
-        bool    first = true;
-        const bool good = pb::membersOf< T >.All( [ & ]( const auto &row ) {
+        pb::Ref    value{ New< T >() };
+        bool       first = true;
+        const bool good  = pb::membersOf< T >.All( [ & ]( const auto &row ) {
             if( !std::exchange( first, false ) && !in.Take( sipsn___SkipLws ) ) return false;
             ( *value.Get() ).*row.member = TryTake( in, *row.rule );
             return pb::Has( ( *value.Get() ).*row.member );

@@ -11,11 +11,10 @@ namespace sipsn::rule {
 
 static constexpr TextRule reasonProtocol{
     .words = "a protocol", .ok = sipsnReasonProtocolOk, .production = sipsn___SkipReasonProtocol };
-static constexpr TextRule reasonCause{
-    .words = "a cause", .ok = sipsnReasonCauseOk, .production = sipsn___SkipReasonCause };
+static constexpr TextRule reasonCause{ .words = "a cause", .ok = sipsnReasonCauseOk, .production = sipsn___SkipDigits };
 static constexpr TextRule reasonText{ .words      = "a quoted text",
                                       .ok         = sipsnReasonTextOk,
-                                      .production = sipsn___SkipReasonText,
+                                      .production = sipsn___SkipQuotedString,
                                       .decoded    = Unquote,
                                       .encoded    = sipsn___QuotableStringEncode };
 
