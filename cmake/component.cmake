@@ -45,4 +45,5 @@ function( sipsn_component name )
     set_target_properties( ${name} PROPERTIES LINK_DEPENDS ${script} VERSION ${PROJECT_VERSION} SOVERSION 0 )
 
     sipsn_install_component( ${name} )
+    set_property( GLOBAL APPEND PROPERTY sipsn_components ${name} )
 endfunction()

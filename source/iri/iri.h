@@ -3,8 +3,10 @@
 #ifndef IRI_H
 #define IRI_H
 
+/* ./dev lists: includes */
 #include "iri_convert.h"
 #include "iri_gens.h"
 #include "iri_module.h"
+/* ./dev lists: end */
 
 #endif

@@ -2,8 +2,7 @@
 #ifndef PB_H
 #define PB_H
 
-#include "pb_types.h"
-
+/* ./dev lists: includes */
 #include "pb_buffer.h"
 #include "pb_charset.h"
 #include "pb_dict.h"
@@ -14,6 +13,8 @@
 #include "pb_store.h"
 #include "pb_string.h"
 #include "pb_time.h"
+#include "pb_types.h"
 #include "pb_vector.h"
+/* ./dev lists: end */
 
 #endif

@@ -14,6 +14,7 @@
 #ifndef SIPSN_H
 #define SIPSN_H
 
+/* ./dev lists: includes */
 #include "sipsn_accept.h"
 #include "sipsn_accept_encoding.h"
 #include "sipsn_alert_info.h"
@@ -41,6 +42,7 @@
 #include "sipsn_generic_param_value.h"
 #include "sipsn_generic_params.h"
 #include "sipsn_handling.h"
+#include "sipsn_header.h"
 #include "sipsn_header_accept.h"
 #include "sipsn_header_accept_encoding.h"
 #include "sipsn_header_accept_resource_priority.h"
@@ -153,5 +155,6 @@
 #include "sipsn_warn_code.h"
 #include "sipsn_warn_text.h"
 #include "sipsn_warning_value.h"
+/* ./dev lists: end */
 
 #endif

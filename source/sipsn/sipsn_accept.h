@@ -1,5 +1,7 @@
 /* SipsnAccept: one accept-range of an Accept header field, RFC 3261 section 20.1.
  *
+ * Example: application/sdp;q=0.700;level=1
+ *
  *     accept-range = ( "*" SLASH "*" / media-type SLASH "*" / media-type SLASH media-subtype ) *( SEMI accept-param )
  *     accept-param = "q" EQUAL qvalue / generic-param
  *

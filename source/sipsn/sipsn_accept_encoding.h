@@ -1,5 +1,7 @@
 /* SipsnAcceptEncoding: one element of an Accept-Encoding header field, RFC 3261 section 20.2.
  *
+ * Example: gzip;q=0.500;level=9
+ *
  *     encoding     = ( content-coding / "*" ) *( SEMI accept-param )
  *     accept-param = "q" EQUAL qvalue / generic-param
  *

@@ -1,5 +1,7 @@
 /* SipsnAlertInfo: one alert-param of an Alert-Info header field, RFC 3261 section 20.4.
  *
+ * Example: <http://www.example.com/sounds/moo.wav>;appearance=2
+ *
  *     alert-param = LAQUOT URI RAQUOT *( SEMI generic-param )
  *
  *     iri              an absolute IRI, a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnCallInfo: one info of a Call-Info header field, RFC 3261 section 20.9.
  *
+ * Example: <http://www.example.com/alice/photo.jpg>;purpose=icon;version=2
+ *
  *     info = LAQUOT URI RAQUOT *( SEMI ( "purpose" EQUAL token / generic-param ) )
  *
  *     iri              an absolute IRI, a URI on the wire; never absent

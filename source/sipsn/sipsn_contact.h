@@ -1,6 +1,8 @@
 /* SipsnContact: one contact-param of a Contact header field, RFC 3261 section 20.10. The "*" of a Contact header field
  * is none.
  *
+ * Example: "Alice" <sip:10.0.0.4>;q=0.700;expires=60;rc=1;mp=2;np=3;+sip.instance="<urn:oid:1.2>";+sip.src;+sip.srs;ob
+ *
  *     contact-param = ( name-addr / addr-spec ) *( SEMI param )
  *
  *     iri              the address, an IRI (a URI on the wire); never absent

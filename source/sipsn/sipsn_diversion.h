@@ -1,5 +1,7 @@
 /* SipsnDiversion: one value of a Diversion header field, RFC 5806 section 3.
  *
+ * Example: "Bob" <sip:bob@example.com>;reason=user-busy;counter=1;limit=5;privacy=full;screen=yes;lang=en
+ *
  *     diversion-value = ( name-addr / addr-spec ) *( SEMI ( reason / counter / limit / privacy / screen /
  *                       generic-param ) )
  *

@@ -1,5 +1,7 @@
 /* SipsnErrorInfo: one error-uri of an Error-Info header field, RFC 3261 section 20.18.
  *
+ * Example: <sip:not-in-service@announce.example.com>;lang=en
+ *
  *     error-uri = LAQUOT URI RAQUOT *( SEMI generic-param )
  *
  *     iri              an absolute IRI, a URI on the wire; never absent

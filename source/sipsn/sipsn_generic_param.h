@@ -1,5 +1,7 @@
 /* SipsnGenericParam: one parameter of a value or header field, RFC 3261 section 25.1.
  *
+ * Example: lang=en
+ *
  *     generic-param = token [ EQUAL ( token / host / quoted-string ) ]
  *
  *     name         a token, in lower case; never absent

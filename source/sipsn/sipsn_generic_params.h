@@ -1,6 +1,8 @@
 /* SipsnGenericParams: the parameters of a value or header field, RFC 3261 section 25.1; a set with one parameter of a
  * name.
  *
+ * Example: ;lang=en;reg-id=1;secure
+ *
  *     generic-params = *( SEMI generic-param )
  *
  * Parameters are kept, counted and written in ascending order of their names. Names are tokens in any letter case;

@@ -1,5 +1,7 @@
 /* SipsnHeaderAcceptEncoding: the Accept-Encoding header field, RFC 3261 section 20.2; a list of encodings.
  *
+ * Example: Accept-Encoding: gzip;q=0.5;level=9
+ *
  * Each value is kept as its text and decoded when TryDecodeAcceptEncodingAt asks for it, which gives null when it is no
  * encoding. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ACCEPT_ENCODING_H

@@ -1,6 +1,8 @@
 /* SipsnHeaderAcceptResourcePriority: the Accept-Resource-Priority header field, RFC 4412 section 3.2; a list of
  * r-values.
  *
+ * Example: Accept-Resource-Priority: dsn.flash-override
+ *
  * R-values are kept as written. A header field without lines is no header. Each is encoded as a line of its own. An
  * invalid one aborts. */
 #ifndef SIPSN_HEADER_ACCEPT_RESOURCE_PRIORITY_H

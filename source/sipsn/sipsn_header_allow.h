@@ -1,5 +1,7 @@
 /* SipsnHeaderAllow: the Allow header field, RFC 3261 section 20.5; a set of methods.
  *
+ * Example: Allow: ACK,BYE,CANCEL,INVITE,OPTIONS
+ *
  * Methods are kept as written, and methods in different letter case are different. All are encoded into one line. A
  * header field without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to the
  * terminating zero. */

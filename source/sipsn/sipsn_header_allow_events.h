@@ -1,5 +1,7 @@
 /* SipsnHeaderAllowEvents: the Allow-Events header field, RFC 6665 section 8.2.2; a set of event types.
  *
+ * Example: Allow-Events: dialog,presence
+ *
  * Event types are kept as written, and event types in different letter case are different. All are encoded into one
  * line. A header field without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to
  * the terminating zero. */

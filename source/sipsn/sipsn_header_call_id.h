@@ -1,5 +1,7 @@
 /* SipsnHeaderCallId: the Call-ID header field, RFC 3261 section 20.8; one Call-ID.
  *
+ * Example: Call-Id: f81d4fae-7dec-11d0@example.com
+ *
  *     callid = word [ "@" word ]
  *
  *     call id   kept as written; never absent

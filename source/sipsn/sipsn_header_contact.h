@@ -1,5 +1,7 @@
 /* SipsnHeaderContact: the Contact header field, RFC 3261 section 20.10; a list of contact-params, or "*".
  *
+ * Example: Contact: "Alice" <sip:alice@192.0.2.4>;q=0.7;expires=3600
+ *
  *     star form   whether "*" stands for all contacts (RFC 3261 section 10.2.2); false unless set
  *
  * Each value is kept as its text and decoded when TryDecodeContactAt asks for it, which gives null when it is no

@@ -1,5 +1,7 @@
 /* SipsnHeaderContentDisposition: the Content-Disposition header field, RFC 3261 section 20.11; what a body is for.
  *
+ * Example: Content-Disposition: session;handling=optional;lang=en
+ *
  *     Content-Disposition = disp-type *( ";" ( "handling" "=" token / generic-param ) )
  *
  *     disposition type   a token, kept in lower case; never absent

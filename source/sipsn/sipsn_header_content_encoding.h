@@ -1,5 +1,7 @@
 /* SipsnHeaderContentEncoding: the Content-Encoding header field, RFC 3261 section 20.12; a list of content codings.
  *
+ * Example: Content-Encoding: gzip,tar
+ *
  * Decoded codings are in lower case; those that a caller adds are kept as given. A header field without lines decodes
  * to an empty list. All codings are encoded into one line. An invalid coding aborts. */
 #ifndef SIPSN_HEADER_CONTENT_ENCODING_H

@@ -1,5 +1,7 @@
 /* SipsnHeaderCseq: the CSeq header field, RFC 3261 section 20.16; a sequence number and a method.
  *
+ * Example: Cseq: 4711 INVITE
+ *
  *     CSeq = 1*DIGIT LWS Method
  *
  *     cseq     0 to 2147483647; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderDate: the Date header field, RFC 3261 section 20.17; when a message was first sent.
  *
+ * Example: Date: Sat, 13 Nov 2010 23:29:00 GMT
+ *
  *     Date = wkday ", " 2DIGIT " " month " " 4DIGIT " " 2DIGIT ":" 2DIGIT ":" 2DIGIT " GMT"
  *
  *     time   in UTC; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderErrorInfo: the Error-Info header field, RFC 3261 section 20.18; a list of error-uris.
  *
+ * Example: Error-Info: <sip:not-in-service@announce.example.com>;lang=en
+ *
  * Each value is kept as its text and decoded when TryDecodeErrorInfoAt asks for it, which gives null when it is no
  * error-uri. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ERROR_INFO_H

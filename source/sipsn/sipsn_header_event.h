@@ -1,6 +1,8 @@
 /* SipsnHeaderEvent: the Event header field, RFC 6665 section 8.2.1; an event package and which of several subscriptions
  * to it.
  *
+ * Example: Event: dialog;id=q4;include-session-description
+ *
  *     Event = event-type *( ";" ( "id" "=" token / generic-param ) )
  *
  *     event type       kept as written; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderExpires: the Expires header field, RFC 3261 section 20.19; for how long something is valid.
  *
+ * Example: Expires: 3600
+ *
  *     Expires = 1*DIGIT
  *
  *     delta seconds   seconds, 0 or above; never absent

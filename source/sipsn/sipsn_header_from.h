@@ -1,5 +1,7 @@
 /* SipsnHeaderFrom: the From header field, RFC 3261 section 20.20, with the epid of some endpoints; one address.
  *
+ * Example: From: "Alice" <sip:alice@example.com>;tag=1928301774;epid=00f4a1;lang=en
+ *
  *     From = ( name-addr / addr-spec ) *( SEMI ( "tag" EQUAL token / "epid" EQUAL epid / generic-param ) )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderMaxForwards: the Max-Forwards header field, RFC 3261 section 20.22; how many hops are left.
  *
+ * Example: Max-Forwards: 70
+ *
  *     Max-Forwards = 1*DIGIT
  *
  *     max forwards   0 to 255; never absent

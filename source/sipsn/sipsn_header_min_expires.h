@@ -1,6 +1,8 @@
 /* SipsnHeaderMinExpires: the Min-Expires header field, RFC 3261 section 20.23; the shortest expiry that a registrar
  * takes.
  *
+ * Example: Min-Expires: 60
+ *
  *     Min-Expires = 1*DIGIT
  *
  *     delta seconds   seconds, 0 or above; never absent

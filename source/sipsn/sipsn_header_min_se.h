@@ -1,5 +1,7 @@
 /* SipsnHeaderMinSe: the Min-SE header field, RFC 4028 section 5; the shortest session interval.
  *
+ * Example: Min-Se: 90;lang=en
+ *
  *     Min-SE = 1*DIGIT *( ";" generic-param )
  *
  *     delta seconds    seconds, 0 or above; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderOrganization: the Organization header field, RFC 3261 section 20.25; to whom the sender belongs.
  *
+ * Example: Organization: Boxes by Bob
+ *
  *     Organization = [ TEXT-UTF8-TRIM ]
  *
  *     organization   free text with single spaces between its words; never absent, may be empty

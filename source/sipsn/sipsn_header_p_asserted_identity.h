@@ -1,6 +1,8 @@
 /* SipsnHeaderPAssertedIdentity: the P-Asserted-Identity header field, RFC 3325 section 9.1; a list of
  * PAssertedID-values.
  *
+ * Example: P-Asserted-Identity: "Alice" <sip:alice@example.com>
+ *
  * Each value is kept as its text and decoded when TryDecodeIdentityValueAt asks for it, which gives null when it is no
  * PAssertedID-value. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_P_ASSERTED_IDENTITY_H

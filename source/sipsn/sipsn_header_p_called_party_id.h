@@ -1,5 +1,7 @@
 /* SipsnHeaderPCalledPartyId: the P-Called-Party-ID header field, RFC 7315 section 4.2; one address.
  *
+ * Example: P-Called-Party-Id: "Bob" <sip:bob-business@example.com>;lang=en
+ *
  *     P-Called-Party-ID = ( name-addr / addr-spec ) *( SEMI generic-param )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderPEarlyMedia: the P-Early-Media header field, RFC 5009 section 8; a list of em-params.
  *
+ * Example: P-Early-Media: sendrecv
+ *
  * Em-params are kept as written. A header field without lines decodes to an empty list. Each is encoded as a line of
  * its own. An invalid one aborts. */
 #ifndef SIPSN_HEADER_P_EARLY_MEDIA_H

@@ -1,6 +1,8 @@
 /* SipsnHeaderPPreferredIdentity: the P-Preferred-Identity header field, RFC 3325 section 9.2; a list of
  * PPreferredID-values.
  *
+ * Example: P-Preferred-Identity: "Alice" <sip:alice@example.com>
+ *
  * Each value is kept as its text and decoded when TryDecodeIdentityValueAt asks for it, which gives null when it is no
  * PPreferredID-value. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_P_PREFERRED_IDENTITY_H

@@ -1,5 +1,7 @@
 /* SipsnHeaderPriority: the Priority header field, RFC 3261 section 20.26; how urgent a request is.
  *
+ * Example: Priority: urgent
+ *
  *     Priority = token
  *
  *     priority value   a token, kept in lower case; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderPrivacy: the Privacy header field, RFC 3323 section 4.2; a set of priv-values.
  *
+ * Example: Privacy: critical;header;id
+ *
  * Priv-values are kept in lower case, in whatever case they are given. All are encoded into one line, separated by
  * semicolons, as they are read. A header field without lines is no header. The Cstr and Wcstr forms take text with its
  * length, -1 meaning up to the terminating zero. */

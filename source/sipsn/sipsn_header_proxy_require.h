@@ -1,5 +1,7 @@
 /* SipsnHeaderProxyRequire: the Proxy-Require header field, RFC 3261 section 20.29; a set of option tags.
  *
+ * Example: Proxy-Require: gruu,sec-agree
+ *
  * Option tags are kept in lower case, in whatever case they are given. All are encoded into one line. A header field
  * without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to the terminating
  * zero. */

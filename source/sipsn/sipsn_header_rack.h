@@ -1,6 +1,8 @@
 /* SipsnHeaderRack: the RAck header field, RFC 3262 section 7.2; which provisional response a PRACK request
  * acknowledges.
  *
+ * Example: Rack: 776656 4711 INVITE
+ *
  *     RAck = response-num LWS 1*DIGIT LWS Method
  *
  *     response num   1 to 4294967295, the RSeq of the response; never absent

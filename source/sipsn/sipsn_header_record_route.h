@@ -1,5 +1,7 @@
 /* SipsnHeaderRecordRoute: the Record-Route header field, RFC 3261 section 20.30; a list of rec-routes.
  *
+ * Example: Record-Route: <sip:p1.example.com;lr>;lang=en
+ *
  * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is no
  * rec-route. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_RECORD_ROUTE_H

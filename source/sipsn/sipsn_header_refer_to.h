@@ -1,5 +1,7 @@
 /* SipsnHeaderReferTo: the Refer-To header field, RFC 3515 section 2.1; one address.
  *
+ * Example: Refer-To: "Dave" <sip:dave@denver.example.org;method=INVITE>;lang=en
+ *
  *     Refer-To = ( name-addr / addr-spec ) *( SEMI generic-param )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderReferredBy: the Referred-By header field, RFC 3892 section 3; one address.
  *
+ * Example: Referred-By: "Alice" <sip:alice@example.com>;cid="20398823.2UWQFN309shb3@alice.example.com";lang=en
+ *
  *     Referred-By = ( name-addr / addr-spec ) *( SEMI ( "cid" EQUAL DQUOTE sip-clean-msg-id DQUOTE / generic-param ) )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderRemotePartyId: the Remote-Party-ID header field, draft-ietf-sip-privacy-04 section 5; one address.
  *
+ * Example: Remote-Party-Id: "Alice" <sip:alice@example.com>;party=calling;privacy=full;screen=yes
+ *
  *     Remote-Party-ID = ( name-addr / addr-spec ) *( SEMI generic-param )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderReplaces: the Replaces header field, RFC 3891 section 6.1; the dialog that a call is to take the place of.
  *
+ * Example: Replaces: 98732@sip.example.com;from-tag=r33th4x0r;to-tag=ff87ff;early-only;lang=en
+ *
  *     Replaces = callid *( SEMI ( "from-tag" EQUAL token / "to-tag" EQUAL token / "early-only" / generic-param ) )
  *
  *     call id         kept as written; never absent

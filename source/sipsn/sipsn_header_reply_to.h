@@ -1,5 +1,7 @@
 /* SipsnHeaderReplyTo: the Reply-To header field, RFC 3261 section 20.31; one address.
  *
+ * Example: Reply-To: "Bob" <sip:bob@example.com>;lang=en
+ *
  *     Reply-To = ( name-addr / addr-spec ) *( SEMI generic-param )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderResourcePriority: the Resource-Priority header field, RFC 4412 section 3.1; a list of r-values.
  *
+ * Example: Resource-Priority: dsn.flash
+ *
  * R-values are kept as written. A header field without lines decodes to an empty list. Each is encoded as a line of its
  * own. An invalid one aborts. */
 #ifndef SIPSN_HEADER_RESOURCE_PRIORITY_H

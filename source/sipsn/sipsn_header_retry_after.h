@@ -1,5 +1,7 @@
 /* SipsnHeaderRetryAfter: the Retry-After header field, RFC 3261 section 20.33; when to try again.
  *
+ * Example: Retry-After: 18000;duration=3600;lang=en
+ *
  *     Retry-After = 1*DIGIT [ comment ] *( ";" ( "duration" "=" 1*DIGIT / generic-param ) )
  *
  *     delta seconds    seconds until then, 0 or above; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderRoute: the Route header field, RFC 3261 section 20.34; a list of route-params.
  *
+ * Example: Route: "Edge" <sip:edge.example.com;lr>;lang=en
+ *
  * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is no
  * route-param. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ROUTE_H

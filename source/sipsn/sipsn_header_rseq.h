@@ -1,5 +1,7 @@
 /* SipsnHeaderRseq: the RSeq header field, RFC 3262 section 7.1; the number of a provisional response.
  *
+ * Example: Rseq: 988789
+ *
  *     RSeq = 1*DIGIT
  *
  *     response num   1 to 4294967295; never absent

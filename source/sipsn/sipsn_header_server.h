@@ -1,5 +1,7 @@
 /* SipsnHeaderServer: the Server header field, RFC 3261 section 20.35; what software sent a response.
  *
+ * Example: Server: HomeServer/2.1 (Debian)
+ *
  *     Server = server-val *( LWS server-val )
  *
  *     server   products and comments, kept as written; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderServiceRoute: the Service-Route header field, RFC 3608; a list of sr-values.
  *
+ * Example: Service-Route: <sip:p2.home.example.com;lr>;lang=en
+ *
  * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is no
  * sr-value. A header field without lines is no header. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_SERVICE_ROUTE_H

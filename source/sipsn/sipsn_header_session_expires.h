@@ -1,6 +1,8 @@
 /* SipsnHeaderSessionExpires: the Session-Expires header field, RFC 4028 section 4; the session interval and who
  * refreshes.
  *
+ * Example: Session-Expires: 1800;refresher=uac;lang=en
+ *
  *     Session-Expires = 1*DIGIT *( ";" ( "refresher" "=" ( "uac" / "uas" ) / generic-param ) )
  *
  *     delta seconds    seconds, 0 or above; never absent

@@ -1,6 +1,8 @@
 /* SipsnHeaderSessionId: the Session-ID header field, RFC 7989 section 5; the identifiers that the two ends give a
  * session.
  *
+ * Example: Session-Id: ab30317f1a784dc48ff824d0d3715d86;remote=47755a9de7794ba387653f2099600ef2;lang=en
+ *
  *     Session-ID = sess-uuid *( ";" ( "remote" "=" sess-uuid / generic-param ) )
  *
  *     local uuid       32 digits and lower-case letters; never absent

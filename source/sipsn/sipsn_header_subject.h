@@ -1,5 +1,7 @@
 /* SipsnHeaderSubject: the Subject header field, RFC 3261 section 20.36; what a call is about.
  *
+ * Example: Subject: Need more boxes
+ *
  *     Subject = [ TEXT-UTF8-TRIM ]
  *
  *     subject   free text with single spaces between its words; never absent, may be empty

@@ -1,6 +1,8 @@
 /* SipsnHeaderSubscriptionState: the Subscription-State header field, RFC 6665 section 8.2.3; the state of a
  * subscription.
  *
+ * Example: Subscription-State: terminated;reason=probation;expires=60;retry-after=120;lang=en
+ *
  *     Subscription-State = substate-value *( ";" parameter )
  *     parameter = "reason" "=" token / "expires" "=" 1*DIGIT / "retry-after" "=" 1*DIGIT / generic-param
  *

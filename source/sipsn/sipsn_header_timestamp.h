@@ -1,6 +1,8 @@
 /* SipsnHeaderTimestamp: the Timestamp header field, RFC 3261 section 20.38; when a request was sent, and how long the
  * answer took.
  *
+ * Example: Timestamp: 54.5 0.5
+ *
  *     Timestamp = 1*DIGIT [ "." *DIGIT ] [ LWS [ *DIGIT [ "." *DIGIT ] ] ]
  *
  *     timestamp value   the time in seconds and the optional delay, kept as written; never absent

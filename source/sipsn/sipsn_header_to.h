@@ -1,5 +1,7 @@
 /* SipsnHeaderTo: the To header field, RFC 3261 section 20.39, with the epid of some endpoints; one address.
  *
+ * Example: To: "Bob" <sip:bob@example.com>;tag=a6c85cf;epid=00f4a1;lang=en
+ *
  *     To = ( name-addr / addr-spec ) *( SEMI ( "tag" EQUAL token / "epid" EQUAL epid / generic-param ) )
  *
  *     iri             an IRI, converted from and to a URI on the wire; never absent

@@ -1,5 +1,7 @@
 /* SipsnHeaderUnsupported: the Unsupported header field, RFC 3261 section 20.40; a set of option tags.
  *
+ * Example: Unsupported: 100rel,resource-priority
+ *
  * Option tags are kept in lower case, in whatever case they are given. All are encoded into one line. A header field
  * without lines is no header. */
 #ifndef SIPSN_HEADER_UNSUPPORTED_H

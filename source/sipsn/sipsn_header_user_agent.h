@@ -1,5 +1,7 @@
 /* SipsnHeaderUserAgent: the User-Agent header field, RFC 3261 section 20.41; what software sent a request.
  *
+ * Example: User-Agent: Softphone/1.5 (Linux)
+ *
  *     User-Agent = server-val *( LWS server-val )
  *
  *     user agent   products and comments, kept as written; never absent

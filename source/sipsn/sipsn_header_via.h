@@ -1,5 +1,7 @@
 /* SipsnHeaderVia: the Via header field, RFC 3261 section 20.42; a list of via-parms.
  *
+ * Example: Via: SIP/2.0/UDP 192.0.2.10:5060;rport;branch=z9hG4bK776asdhds;keep=30
+ *
  * Each value is kept as its text and decoded when TryDecodeViaAt asks for it, which gives null when it is no via-parm.
  * A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_VIA_H

@@ -1,5 +1,7 @@
 /* SipsnHeaderWarning: the Warning header field, RFC 3261 section 20.43; a list of warning-values.
  *
+ * Example: Warning: 307 proxy.example.com "Session parameter 'foo' not understood"
+ *
  * Each value is kept as its text and decoded when TryDecodeWarningAt asks for it, which gives null when it is no
  * warning-value. A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_WARNING_H

@@ -1,5 +1,7 @@
 /* SipsnHistoryInfo: one hi-entry of a History-Info header field, RFC 7044 section 5.
  *
+ * Example: "Bob" <sip:bob@192.0.2.4>;index=1.1;rc=1;mp=1;np=1;lang=en
+ *
  *     hi-entry = name-addr *( SEMI ( index-param / rc-param / mp-param / np-param / generic-param ) )
  *
  *     iri              the address, an IRI (a URI on the wire); never absent

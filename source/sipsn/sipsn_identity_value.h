@@ -1,5 +1,7 @@
 /* SipsnIdentityValue: one value of a P-Asserted-Identity or P-Preferred-Identity header field, RFC 3325 section 9.
  *
+ * Example: "Alice" <sip:alice@example.com>
+ *
  *     identity-value = name-addr / addr-spec
  *
  *     iri            the address, an IRI (a URI on the wire); never absent

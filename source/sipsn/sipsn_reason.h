@@ -1,5 +1,7 @@
 /* SipsnReason: one reason-value of a Reason header field, RFC 3326 section 2.
  *
+ * Example: Q.850;cause=16;text="Normal call clearing";location=LN
+ *
  *     reason-value = protocol *( ";" ( "cause" "=" 1*DIGIT / "text" "=" quoted-string / generic-param ) )
  *
  *     protocol        a token, case kept; never absent

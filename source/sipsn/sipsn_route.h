@@ -1,6 +1,8 @@
 /* SipsnRoute: one route-param of a Route, Record-Route or Service-Route header field, RFC 3261 sections 20.30
  * and 20.34, RFC 3608.
  *
+ * Example: "Edge" <sip:edge.example.com;lr>;lang=en
+ *
  *     route-param = name-addr *( SEMI generic-param )
  *
  *     iri              the address, an IRI (a URI on the wire); never absent

@@ -1,5 +1,7 @@
 /* SipsnUuiValue: one uui-value of a User-to-User header field, RFC 7433 section 4.1.
  *
+ * Example: 56a390f3d2b7310023;encoding=hex;purpose=isdn-uui;content=isdn-uui;lang=en
+ *
  *     uui-value = token *( SEMI ( ( "encoding" / "purpose" / "content" ) EQUAL token / generic-param ) )
  *
  *     uui data         a token, or a text without CR and LF; never absent

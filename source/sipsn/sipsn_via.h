@@ -1,5 +1,7 @@
 /* SipsnVia: one via-parm of a Via header field, RFC 3261 section 20.42, with the rport of RFC 3581.
  *
+ * Example: SIP/2.0/UDP 192.0.2.10:5060;ttl=16;maddr=224.0.1.75;received=198.51.100.7;rport;branch=z9hG4bK77as;keep
+ *
  *     via-parm = protocol-name SLASH protocol-version SLASH transport LWS host [ COLON port ] *( SEMI via-param )
  *
  *     version          protocol name and version; never absent

@@ -1,5 +1,7 @@
 /* SipsnWarningValue: one warning-value of a Warning header field, RFC 3261 section 20.43.
  *
+ * Example: 307 proxy.example.com "Session parameter 'foo' not understood"
+ *
  *     warning-value = warn-code SP warn-agent SP warn-text
  *
  *     warn code     0 to 999
