@@ -1,16 +1,18 @@
+/* clang-format off */
 /* sipsn: SIP messages (RFC 3261 and its extensions) as text and as trees of typed values. This file includes all of it.
  *
  * What holds everywhere:
  *
  *   - Start the module first: pbModuleStart( sipsnModule() ); stop it last.
  *   - Objects are reference-counted. A function that returns an object returns a new reference, which the caller
- * releases; an argument's reference stays with the caller. Shared objects are never changed: a function that takes `T
- * **` replaces the caller's object by a private copy first. Any thread may read, retain and release.
+ *     releases; an argument's reference stays with the caller. Shared objects are never changed: a function that takes
+ *     `T **` replaces the caller's object by a private copy first. Any thread may read, retain and release.
  *   - Null is an absent object, -1 an absent number. Lengths and indexes are int64_t and count from 0; a text's length
- * may be -1, up to the terminating zero.
+ *     may be -1, up to the terminating zero.
  *   - Misuse (a null argument, a value that its ...Ok function refuses, an index out of range) ends the process with a
- * line on standard error. Text from outside never does: what is malformed decodes to null.
+ *     line on standard error. Text from outside never does: what is malformed decodes to null.
  *   - Decoding takes all of its input or fails. Encoding writes one canonical form. */
+/* clang-format on */
 #ifndef SIPSN_H
 #define SIPSN_H
 
