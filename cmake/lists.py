@@ -4,9 +4,10 @@
     lists.py --write            writes it anew
     lists.py --library FILE...  compares the export lists with what built libraries export
 
-Of every component: <component>.exports, the names that its headers export; the includes of <component>.h. Of sipsn:
-sipsn_families.inc, sipsn_values.inc, the registers of header families and of structured values. All follows from the
-first lines and the declarations of the headers. What does not have the expected form is an error, and never left out.
+Of every component: <component>.exports, the names that its headers export; in its headers, the declarations that are
+the same for many types; the includes of <component>.h. Of sipsn: sipsn_families.inc, sipsn_values.inc, the registers of
+header families and of structured values. All follows from the headers. What does not have the expected form is an error,
+and never left out.
 """
 import argparse
 import dataclasses
@@ -75,6 +76,11 @@ def declared(component):
         names.add(DECLARED_NAME.search(ATTRIBUTE.sub("", declaration).strip()).group(1))
     for type_name in SORT_FUNCTION.findall(text):
         names.add(f"{component}___sort_" + snake(type_name).upper())
+    comment = re.compile(r"/\*.*?\*/", re.DOTALL)
+    written = set(re.findall(r"\w+", "".join(comment.sub("", header.read_text()) for header in public_headers(component))))
+    for name in sorted(names - written):
+        if "___" not in name:
+            fail(component, f"{name} is public, but a macro makes it: it stands in no header")
     # "spisn" begins one name of sipsn that has been misspelt since it was first exported.
     for name in sorted(names):
         if not re.match(rf"{component}(?=[A-Z_])|spisn", name):
@@ -98,6 +104,15 @@ def compare_library(library):
 
 
 # ---- Headers ---------------------------------------------------------------------------------------
+#
+# A line /* ./dev lists: TYPE( SipsnVia ) */ in a public header stands for declarations, which follow it in full, up to a
+# line /* ./dev lists: end */. They are those that pb_types.h or sipsn_header.h describes, with the names replaced.
+
+DIRECTIVE = r"^/\* \./dev lists: (?!end)(\w+)(?:\( ([\w, ]+) \))?(?:, see [\w.]+)? \*/\n"
+BLOCK = re.compile(DIRECTIVE + r"(?:(?:(?!/\* \./dev lists: ).*\n)*/\* \./dev lists: end \*/\n)?", re.MULTILINE)
+DESCRIPTION = re.compile(r"^/\* (\w+)\( ([\w, ]+) \)(?: of (\w+))? declares(.*?)\*/$", re.MULTILINE | re.DOTALL)
+DESCRIBED_LINE = re.compile(r"^ \*(?:     (\S.*;).*)?$", re.MULTILINE)
+
 
 def public_headers(component):
     """Those with include guards; `#pragma once` makes a header the libraries' own."""
@@ -106,18 +121,66 @@ def public_headers(component):
 
 
 def directives(header):
-    """What a header declares by a macro: pairs of the macro's last word and its arguments."""
-    found = re.findall(r"^(?:PB|SIPSN)_DECLARE_(\w+)\( ([\w,\s]+) \)$", header.read_text(), re.MULTILINE)
-    return {kind: re.split(r",\s+", arguments) for kind, arguments in found}
+    """What a header asks for: the arguments by the directive's word."""
+    found = re.findall(DIRECTIVE, header.read_text(), re.MULTILINE)
+    if len(found) != len(re.findall(r"\./dev lists: (?!end)", header.read_text())):
+        fail(header.name, "has a directive that is not understood")
+    return {word: arguments.split(", ") for word, arguments in found}
 
 
-def umbrella(component):
-    path = SOURCE / component / f"{component}.h"
-    text = path.read_text()
-    includes = "".join(f'#include "{header.name}"\n' for header in public_headers(component) if header != path)
-    begin, end = find(r"(/\* \./dev lists: includes \*/\n)[^/]*(/\* \./dev lists: end \*/\n)", text, path.name,
-                      "marks around its includes")
-    return path, text[:text.index(begin)] + begin + includes + text[text.index(end):]
+def lower_first(name):
+    return name[:1].lower() + name[1:]
+
+
+def spellings(type_name, arguments):
+    """The names that declarations are made of: of the type, of its functions, the arguments, and of a parameter."""
+    last = next((name for name in reversed(arguments) if name != "PbString"), "")
+    return [type_name, lower_first(type_name), *arguments, lower_first(last.removeprefix("Sipsn"))]
+
+
+def descriptions():
+    """By the directive's word: the header that describes it, the names there, and the declarations."""
+    found = {}
+    for path in SOURCE / "pb/pb_types.h", SOURCE / "sipsn/sipsn_header.h":
+        for word, arguments, type_name, text in DESCRIPTION.findall(path.read_text()):
+            names = spellings(type_name, arguments.split(", ")) if type_name else spellings(arguments, [])
+            found[word] = path.name, names, "\n".join(DESCRIBED_LINE.findall(text)).strip().split("\n")
+    where, names, lines = found["TYPE"]
+    found["OBJECT"] = where, names, [line for line in lines if "CreateFrom(" not in line]
+    return found
+
+
+DESCRIPTIONS = descriptions()
+
+
+def declarations(word, type_name, arguments):
+    """The declarations that a directive stands for."""
+    where, described, lines = DESCRIPTIONS[word]
+    spelt = dict(zip(described, spellings(type_name, arguments)))
+    pattern = re.compile("|".join(sorted(filter(None, spelt), key=len, reverse=True)))
+    text = ""
+    for line in lines:
+        text += "PB_API " if line and not line.startswith("typedef") else ""
+        text += pattern.sub(lambda name: spelt[name.group()], line) + "\n"
+    return declarations("TYPE", type_name, arguments) + "\n" + text if word == "HEADER" else text
+
+
+def filled(header):
+    """The text of a public header with what its directives stand for."""
+    asked = directives(header)
+    type_name = next((asked[word][0] for word in ("TYPE", "OBJECT", "HEADER") if word in asked), None)
+
+    def fill(match):
+        word, arguments = match.groups()
+        if word == "includes":
+            mark, text = word, "".join(f'#include "{other.name}"\n' for other in public_headers(header.parent.name)
+                                       if other != header)
+        else:
+            mark = f"{word}( {arguments} ), see {DESCRIPTIONS[word][0]}"
+            text = declarations(word, type_name, arguments.split(", ") if arguments != type_name else [])
+        return f"/* ./dev lists: {mark} */\n{text}/* ./dev lists: end */\n"
+
+    return BLOCK.sub(fill, header.read_text())
 
 
 # ---- The registers of sipsn ------------------------------------------------------------------------
@@ -150,10 +213,10 @@ class Value:
 def items_of(declared_by):
     """The kind of a family and its further columns."""
     if "SET" in declared_by:
-        return "TOKENS", [*declared_by["SET"][2:4], "set"]
+        return "TOKENS", [*declared_by["SET"], "set"]
     if "LIST" not in declared_by:
         return "SINGLE", []
-    items, item, value = declared_by["LIST"][2:5]
+    items, item, value = declared_by["LIST"]
     return ("TOKENS", [items, item, "list"]) if value == "PbString" else ("VALUES", [items, item, value[5:]])
 
 
@@ -255,10 +318,24 @@ VALUES_END = """
 def made():
     """Every file that is written, as pairs of its path and its text."""
     for component in COMPONENTS:
-        yield umbrella(component)
+        yield from ((header, filled(header)) for header in public_headers(component) if directives(header))
         yield exports_path(component), "".join(name + "\n" for name in declared(component))
     yield SOURCE / "sipsn/sipsn_families.inc", FAMILIES + table(in_start_order(families())) + FAMILIES_END
     yield SOURCE / "sipsn/sipsn_values.inc", VALUES + table(values()) + VALUES_END
+
+
+def stands(path, text):
+    """Whether a file holds a text; the blanks of a header are the formatter's."""
+    if not path.exists():
+        return False
+    standing = path.read_text()
+    return standing == text or path.suffix == ".h" and standing.split() == text.split()
+
+
+def write(path, text):
+    path.write_text(text)
+    if path.suffix == ".h":
+        subprocess.run(["clang-format-14", "-i", path], check=True)
 
 
 def differences(path, text):
@@ -277,10 +354,10 @@ def main():
 
     faults = [fault for library in arguments.library for fault in compare_library(library)]
     for path, text in made() if not arguments.library else []:
-        if path.exists() and path.read_text() == text:
+        if stands(path, text):
             continue
         if arguments.write:
-            path.write_text(text)
+            write(path, text)
         else:
             faults += differences(path, text)
     print("\n".join(faults), end="\n" if faults else "")

@@ -9,7 +9,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( InAddress, inAddress )
+/* ./dev lists: TYPE( InAddress ), see pb_types.h */
+typedef struct InAddress InAddress;
+
+PB_API InAddress *inAddressCreateFrom( InAddress *source );
+PB_API InAddress *inAddressRetain( InAddress *obj );
+PB_API void       inAddressRelease( InAddress *obj );
+PB_API PbObj     *inAddressObj( InAddress *obj );
+PB_API InAddress *inAddressFrom( PbObj *obj );
+PB_API PbSort    *inAddressSort( void );
+PB_API PbString  *inAddressToString( InAddress *obj );
+PB_API int64_t    inAddressCompare( InAddress *a, InAddress *b );
+PB_API bool       inAddressEquals( InAddress *a, InAddress *b );
+/* ./dev lists: end */
 
 /* The address that the whole text is (RFC 3986 section 3.2.2: IPv4address or IPv6address, no brackets), or null. */
 PB_API InAddress *inAddressTryCreateFromChars( const PbChar *chs, int64_t length );

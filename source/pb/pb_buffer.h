@@ -11,7 +11,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbBuffer, pbBuffer )
+/* ./dev lists: TYPE( PbBuffer ), see pb_types.h */
+typedef struct PbBuffer PbBuffer;
+
+PB_API PbBuffer *pbBufferCreateFrom( PbBuffer *source );
+PB_API PbBuffer *pbBufferRetain( PbBuffer *obj );
+PB_API void      pbBufferRelease( PbBuffer *obj );
+PB_API PbObj    *pbBufferObj( PbBuffer *obj );
+PB_API PbBuffer *pbBufferFrom( PbObj *obj );
+PB_API PbSort   *pbBufferSort( void );
+PB_API PbString *pbBufferToString( PbBuffer *obj );
+PB_API int64_t   pbBufferCompare( PbBuffer *a, PbBuffer *b );
+PB_API bool      pbBufferEquals( PbBuffer *a, PbBuffer *b );
+/* ./dev lists: end */
 
 PB_API PbBuffer *pbBufferCreate( void );
 PB_API PbBuffer *pbBufferCreateFromBytesCopy( const void *bytes, int64_t length );

@@ -10,7 +10,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbDict, pbDict )
+/* ./dev lists: TYPE( PbDict ), see pb_types.h */
+typedef struct PbDict PbDict;
+
+PB_API PbDict   *pbDictCreateFrom( PbDict *source );
+PB_API PbDict   *pbDictRetain( PbDict *obj );
+PB_API void      pbDictRelease( PbDict *obj );
+PB_API PbObj    *pbDictObj( PbDict *obj );
+PB_API PbDict   *pbDictFrom( PbObj *obj );
+PB_API PbSort   *pbDictSort( void );
+PB_API PbString *pbDictToString( PbDict *obj );
+PB_API int64_t   pbDictCompare( PbDict *a, PbDict *b );
+PB_API bool      pbDictEquals( PbDict *a, PbDict *b );
+/* ./dev lists: end */
 
 PB_API PbDict *pbDictCreate( void );
 PB_API int64_t pbDictLength( PbDict *dict );

@@ -23,7 +23,7 @@ PB_API void   pbObjRelease( PbObj *obj );
 PB_API int64_t pbObjCompare( PbObj *a, PbObj *b );
 
 /* The object's text as a new string: what the sort's hook makes, or the sort's name when it has none. */
-PB_API struct PbString *pbObjToString( PbObj *obj );
+PB_API PbString *pbObjToString( PbObj *obj );
 
 /* A block of `size` bytes, at least that of the object header, with a count of 1. The rest is not initialised. */
 PB_API PbObj *pb___ObjCreate( int64_t size, PbSort *sort );

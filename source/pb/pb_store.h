@@ -10,7 +10,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbStore, pbStore )
+/* ./dev lists: TYPE( PbStore ), see pb_types.h */
+typedef struct PbStore PbStore;
+
+PB_API PbStore  *pbStoreCreateFrom( PbStore *source );
+PB_API PbStore  *pbStoreRetain( PbStore *obj );
+PB_API void      pbStoreRelease( PbStore *obj );
+PB_API PbObj    *pbStoreObj( PbStore *obj );
+PB_API PbStore  *pbStoreFrom( PbObj *obj );
+PB_API PbSort   *pbStoreSort( void );
+PB_API PbString *pbStoreToString( PbStore *obj );
+PB_API int64_t   pbStoreCompare( PbStore *a, PbStore *b );
+PB_API bool      pbStoreEquals( PbStore *a, PbStore *b );
+/* ./dev lists: end */
 
 PB_API PbStore *pbStoreCreate( void );
 PB_API int64_t  pbStoreLength( PbStore *store );

@@ -11,7 +11,20 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbString, pbString )
+/* ./dev lists: TYPE( PbString ), see pb_types.h */
+typedef struct PbString PbString;
+
+PB_API PbString *pbStringCreateFrom( PbString *source );
+PB_API PbString *pbStringRetain( PbString *obj );
+PB_API void      pbStringRelease( PbString *obj );
+PB_API PbObj    *pbStringObj( PbString *obj );
+PB_API PbString *pbStringFrom( PbObj *obj );
+PB_API PbSort   *pbStringSort( void );
+PB_API PbString *pbStringToString( PbString *obj );
+PB_API int64_t   pbStringCompare( PbString *a, PbString *b );
+PB_API bool      pbStringEquals( PbString *a, PbString *b );
+/* ./dev lists: end */
+
 typedef struct PbVector PbVector;
 
 PB_API PbString *pbStringCreate( void );

@@ -9,7 +9,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbTime, pbTime )
+/* ./dev lists: TYPE( PbTime ), see pb_types.h */
+typedef struct PbTime PbTime;
+
+PB_API PbTime   *pbTimeCreateFrom( PbTime *source );
+PB_API PbTime   *pbTimeRetain( PbTime *obj );
+PB_API void      pbTimeRelease( PbTime *obj );
+PB_API PbObj    *pbTimeObj( PbTime *obj );
+PB_API PbTime   *pbTimeFrom( PbObj *obj );
+PB_API PbSort   *pbTimeSort( void );
+PB_API PbString *pbTimeToString( PbTime *obj );
+PB_API int64_t   pbTimeCompare( PbTime *a, PbTime *b );
+PB_API bool      pbTimeEquals( PbTime *a, PbTime *b );
+/* ./dev lists: end */
 
 PB_API PbTime *pbTimeCreate( void ); /* 1970-01-01 00:00:00 */
 PB_API PbTime *pbTimeNow( void );    /* the system clock, UTC */

@@ -1,5 +1,5 @@
-/* The words that all public headers are written with: export and linkage marks, the basic types, and the
- * declaration of an object type. C11 and C++. */
+/* The words that all public headers are written with: export and linkage marks, the basic types, and what
+ * every object type declares. C11 and C++. */
 #ifndef PB_TYPES_H
 #define PB_TYPES_H
 
@@ -32,10 +32,11 @@ typedef uint8_t PbByte;
 
 typedef struct PbObj          PbObj;
 typedef struct PbSort         PbSort;
+typedef struct PbString       PbString;
 typedef struct PbModule       PbModule;
 typedef struct PbModuleRecord PbModuleRecord;
 
-/* PB_DECLARE_TYPE( SipsnReason, sipsnReason ) declares a type and its standard functions:
+/* TYPE( SipsnReason ) declares a type and its standard functions, which ./dev lists writes out in the type's header:
  *
  *     typedef struct SipsnReason SipsnReason;
  *
@@ -49,22 +50,9 @@ typedef struct PbModuleRecord PbModuleRecord;
  *     int64_t      sipsnReasonCompare( SipsnReason *a, SipsnReason *b );   -- negative, 0 or positive
  *     bool         sipsnReasonEquals( SipsnReason *a, SipsnReason *b );
  *
- * The tenth, Create, takes the type's mandatory values, so each type declares its own. CreateFrom, Retain,
- * Release, ToString and Compare abort on null; From aborts on an object of another sort. */
-#define PB_DECLARE_TYPE( Type, prefix )                                                                                \
-    PB_DECLARE_OBJECT( Type, prefix )                                                                                  \
-    PB_API Type *prefix##CreateFrom( Type *source );
-
-/* The same for a type that is not copied: all but CreateFrom. */
-#define PB_DECLARE_OBJECT( Type, prefix )                                                                              \
-    typedef struct Type     Type;                                                                                      \
-    PB_API Type            *prefix##Retain( Type *obj );                                                               \
-    PB_API void             prefix##Release( Type *obj );                                                              \
-    PB_API PbObj           *prefix##Obj( Type *obj );                                                                  \
-    PB_API Type            *prefix##From( PbObj *obj );                                                                \
-    PB_API PbSort          *prefix##Sort( void );                                                                      \
-    PB_API struct PbString *prefix##ToString( Type *obj );                                                             \
-    PB_API int64_t          prefix##Compare( Type *a, Type *b );                                                       \
-    PB_API bool             prefix##Equals( Type *a, Type *b );
+ * The tenth, Create, takes the type's mandatory values, so each type declares its own. CreateFrom, Retain, Release,
+ * ToString and Compare abort on null; From aborts on an object of another sort.
+ *
+ * OBJECT declares the same for a type that is not copied: all but CreateFrom. */
 
 #endif

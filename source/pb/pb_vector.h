@@ -10,7 +10,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( PbVector, pbVector )
+/* ./dev lists: TYPE( PbVector ), see pb_types.h */
+typedef struct PbVector PbVector;
+
+PB_API PbVector *pbVectorCreateFrom( PbVector *source );
+PB_API PbVector *pbVectorRetain( PbVector *obj );
+PB_API void      pbVectorRelease( PbVector *obj );
+PB_API PbObj    *pbVectorObj( PbVector *obj );
+PB_API PbVector *pbVectorFrom( PbObj *obj );
+PB_API PbSort   *pbVectorSort( void );
+PB_API PbString *pbVectorToString( PbVector *obj );
+PB_API int64_t   pbVectorCompare( PbVector *a, PbVector *b );
+PB_API bool      pbVectorEquals( PbVector *a, PbVector *b );
+/* ./dev lists: end */
 
 PB_API PbVector *pbVectorCreate( void );
 PB_API int64_t   pbVectorLength( PbVector *vector );

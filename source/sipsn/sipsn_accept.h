@@ -23,7 +23,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnAccept, sipsnAccept )
+/* ./dev lists: TYPE( SipsnAccept ), see pb_types.h */
+typedef struct SipsnAccept SipsnAccept;
+
+PB_API SipsnAccept *sipsnAcceptCreateFrom( SipsnAccept *source );
+PB_API SipsnAccept *sipsnAcceptRetain( SipsnAccept *obj );
+PB_API void         sipsnAcceptRelease( SipsnAccept *obj );
+PB_API PbObj       *sipsnAcceptObj( SipsnAccept *obj );
+PB_API SipsnAccept *sipsnAcceptFrom( PbObj *obj );
+PB_API PbSort      *sipsnAcceptSort( void );
+PB_API PbString    *sipsnAcceptToString( SipsnAccept *obj );
+PB_API int64_t      sipsnAcceptCompare( SipsnAccept *a, SipsnAccept *b );
+PB_API bool         sipsnAcceptEquals( SipsnAccept *a, SipsnAccept *b );
+/* ./dev lists: end */
 
 PB_API SipsnAccept *sipsnAcceptCreate( void ); /* any type, any subtype, no parameters */
 

@@ -23,7 +23,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnAcceptEncoding, sipsnAcceptEncoding )
+/* ./dev lists: TYPE( SipsnAcceptEncoding ), see pb_types.h */
+typedef struct SipsnAcceptEncoding SipsnAcceptEncoding;
+
+PB_API SipsnAcceptEncoding *sipsnAcceptEncodingCreateFrom( SipsnAcceptEncoding *source );
+PB_API SipsnAcceptEncoding *sipsnAcceptEncodingRetain( SipsnAcceptEncoding *obj );
+PB_API void                 sipsnAcceptEncodingRelease( SipsnAcceptEncoding *obj );
+PB_API PbObj               *sipsnAcceptEncodingObj( SipsnAcceptEncoding *obj );
+PB_API SipsnAcceptEncoding *sipsnAcceptEncodingFrom( PbObj *obj );
+PB_API PbSort              *sipsnAcceptEncodingSort( void );
+PB_API PbString            *sipsnAcceptEncodingToString( SipsnAcceptEncoding *obj );
+PB_API int64_t              sipsnAcceptEncodingCompare( SipsnAcceptEncoding *a, SipsnAcceptEncoding *b );
+PB_API bool                 sipsnAcceptEncodingEquals( SipsnAcceptEncoding *a, SipsnAcceptEncoding *b );
+/* ./dev lists: end */
 
 PB_API SipsnAcceptEncoding *sipsnAcceptEncodingCreate( void ); /* no content coding, no parameters */
 PB_API SipsnAcceptEncoding *sipsnAcceptEncodingCreateWithContentCoding( PbString *contentCoding );

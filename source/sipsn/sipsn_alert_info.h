@@ -16,7 +16,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnAlertInfo, sipsnAlertInfo )
+/* ./dev lists: TYPE( SipsnAlertInfo ), see pb_types.h */
+typedef struct SipsnAlertInfo SipsnAlertInfo;
+
+PB_API SipsnAlertInfo *sipsnAlertInfoCreateFrom( SipsnAlertInfo *source );
+PB_API SipsnAlertInfo *sipsnAlertInfoRetain( SipsnAlertInfo *obj );
+PB_API void            sipsnAlertInfoRelease( SipsnAlertInfo *obj );
+PB_API PbObj          *sipsnAlertInfoObj( SipsnAlertInfo *obj );
+PB_API SipsnAlertInfo *sipsnAlertInfoFrom( PbObj *obj );
+PB_API PbSort         *sipsnAlertInfoSort( void );
+PB_API PbString       *sipsnAlertInfoToString( SipsnAlertInfo *obj );
+PB_API int64_t         sipsnAlertInfoCompare( SipsnAlertInfo *a, SipsnAlertInfo *b );
+PB_API bool            sipsnAlertInfoEquals( SipsnAlertInfo *a, SipsnAlertInfo *b );
+/* ./dev lists: end */
 
 PB_API SipsnAlertInfo *sipsnAlertInfoCreate( PbString *iri );
 

@@ -19,7 +19,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnCallInfo, sipsnCallInfo )
+/* ./dev lists: TYPE( SipsnCallInfo ), see pb_types.h */
+typedef struct SipsnCallInfo SipsnCallInfo;
+
+PB_API SipsnCallInfo *sipsnCallInfoCreateFrom( SipsnCallInfo *source );
+PB_API SipsnCallInfo *sipsnCallInfoRetain( SipsnCallInfo *obj );
+PB_API void           sipsnCallInfoRelease( SipsnCallInfo *obj );
+PB_API PbObj         *sipsnCallInfoObj( SipsnCallInfo *obj );
+PB_API SipsnCallInfo *sipsnCallInfoFrom( PbObj *obj );
+PB_API PbSort        *sipsnCallInfoSort( void );
+PB_API PbString      *sipsnCallInfoToString( SipsnCallInfo *obj );
+PB_API int64_t        sipsnCallInfoCompare( SipsnCallInfo *a, SipsnCallInfo *b );
+PB_API bool           sipsnCallInfoEquals( SipsnCallInfo *a, SipsnCallInfo *b );
+/* ./dev lists: end */
 
 PB_API SipsnCallInfo *sipsnCallInfoCreate( PbString *iri );
 

@@ -29,7 +29,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnContact, sipsnContact )
+/* ./dev lists: TYPE( SipsnContact ), see pb_types.h */
+typedef struct SipsnContact SipsnContact;
+
+PB_API SipsnContact *sipsnContactCreateFrom( SipsnContact *source );
+PB_API SipsnContact *sipsnContactRetain( SipsnContact *obj );
+PB_API void          sipsnContactRelease( SipsnContact *obj );
+PB_API PbObj        *sipsnContactObj( SipsnContact *obj );
+PB_API SipsnContact *sipsnContactFrom( PbObj *obj );
+PB_API PbSort       *sipsnContactSort( void );
+PB_API PbString     *sipsnContactToString( SipsnContact *obj );
+PB_API int64_t       sipsnContactCompare( SipsnContact *a, SipsnContact *b );
+PB_API bool          sipsnContactEquals( SipsnContact *a, SipsnContact *b );
+/* ./dev lists: end */
 
 PB_API SipsnContact *sipsnContactCreate( PbString *iri );
 

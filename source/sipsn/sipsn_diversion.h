@@ -31,7 +31,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnDiversion, sipsnDiversion )
+/* ./dev lists: TYPE( SipsnDiversion ), see pb_types.h */
+typedef struct SipsnDiversion SipsnDiversion;
+
+PB_API SipsnDiversion *sipsnDiversionCreateFrom( SipsnDiversion *source );
+PB_API SipsnDiversion *sipsnDiversionRetain( SipsnDiversion *obj );
+PB_API void            sipsnDiversionRelease( SipsnDiversion *obj );
+PB_API PbObj          *sipsnDiversionObj( SipsnDiversion *obj );
+PB_API SipsnDiversion *sipsnDiversionFrom( PbObj *obj );
+PB_API PbSort         *sipsnDiversionSort( void );
+PB_API PbString       *sipsnDiversionToString( SipsnDiversion *obj );
+PB_API int64_t         sipsnDiversionCompare( SipsnDiversion *a, SipsnDiversion *b );
+PB_API bool            sipsnDiversionEquals( SipsnDiversion *a, SipsnDiversion *b );
+/* ./dev lists: end */
 
 PB_API SipsnDiversion *sipsnDiversionCreate( PbString *iri );
 PB_API SipsnDiversion *sipsnDiversionCreateWithDisplayName( PbString *iri, PbString *displayName );

@@ -16,7 +16,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnErrorInfo, sipsnErrorInfo )
+/* ./dev lists: TYPE( SipsnErrorInfo ), see pb_types.h */
+typedef struct SipsnErrorInfo SipsnErrorInfo;
+
+PB_API SipsnErrorInfo *sipsnErrorInfoCreateFrom( SipsnErrorInfo *source );
+PB_API SipsnErrorInfo *sipsnErrorInfoRetain( SipsnErrorInfo *obj );
+PB_API void            sipsnErrorInfoRelease( SipsnErrorInfo *obj );
+PB_API PbObj          *sipsnErrorInfoObj( SipsnErrorInfo *obj );
+PB_API SipsnErrorInfo *sipsnErrorInfoFrom( PbObj *obj );
+PB_API PbSort         *sipsnErrorInfoSort( void );
+PB_API PbString       *sipsnErrorInfoToString( SipsnErrorInfo *obj );
+PB_API int64_t         sipsnErrorInfoCompare( SipsnErrorInfo *a, SipsnErrorInfo *b );
+PB_API bool            sipsnErrorInfoEquals( SipsnErrorInfo *a, SipsnErrorInfo *b );
+/* ./dev lists: end */
 
 PB_API SipsnErrorInfo *sipsnErrorInfoCreate( PbString *iri );
 

@@ -18,7 +18,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnGenericParam, sipsnGenericParam )
+/* ./dev lists: TYPE( SipsnGenericParam ), see pb_types.h */
+typedef struct SipsnGenericParam SipsnGenericParam;
+
+PB_API SipsnGenericParam *sipsnGenericParamCreateFrom( SipsnGenericParam *source );
+PB_API SipsnGenericParam *sipsnGenericParamRetain( SipsnGenericParam *obj );
+PB_API void               sipsnGenericParamRelease( SipsnGenericParam *obj );
+PB_API PbObj             *sipsnGenericParamObj( SipsnGenericParam *obj );
+PB_API SipsnGenericParam *sipsnGenericParamFrom( PbObj *obj );
+PB_API PbSort            *sipsnGenericParamSort( void );
+PB_API PbString          *sipsnGenericParamToString( SipsnGenericParam *obj );
+PB_API int64_t            sipsnGenericParamCompare( SipsnGenericParam *a, SipsnGenericParam *b );
+PB_API bool               sipsnGenericParamEquals( SipsnGenericParam *a, SipsnGenericParam *b );
+/* ./dev lists: end */
 
 PB_API SipsnGenericParam *sipsnGenericParamCreate( PbString *name );
 PB_API SipsnGenericParam *sipsnGenericParamCreateCstr( const char *name, int64_t nameLength );

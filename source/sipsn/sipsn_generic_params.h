@@ -16,7 +16,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnGenericParams, sipsnGenericParams )
+/* ./dev lists: TYPE( SipsnGenericParams ), see pb_types.h */
+typedef struct SipsnGenericParams SipsnGenericParams;
+
+PB_API SipsnGenericParams *sipsnGenericParamsCreateFrom( SipsnGenericParams *source );
+PB_API SipsnGenericParams *sipsnGenericParamsRetain( SipsnGenericParams *obj );
+PB_API void                sipsnGenericParamsRelease( SipsnGenericParams *obj );
+PB_API PbObj              *sipsnGenericParamsObj( SipsnGenericParams *obj );
+PB_API SipsnGenericParams *sipsnGenericParamsFrom( PbObj *obj );
+PB_API PbSort             *sipsnGenericParamsSort( void );
+PB_API PbString           *sipsnGenericParamsToString( SipsnGenericParams *obj );
+PB_API int64_t             sipsnGenericParamsCompare( SipsnGenericParams *a, SipsnGenericParams *b );
+PB_API bool                sipsnGenericParamsEquals( SipsnGenericParams *a, SipsnGenericParams *b );
+/* ./dev lists: end */
 
 PB_API SipsnGenericParams *sipsnGenericParamsCreate( void ); /* empty */
 

@@ -13,11 +13,42 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents )
+/* ./dev lists: HEADER( SipsnHeaderAllowEvents ), see sipsn_header.h */
+typedef struct SipsnHeaderAllowEvents SipsnHeaderAllowEvents;
+
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsCreateFrom( SipsnHeaderAllowEvents *source );
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsRetain( SipsnHeaderAllowEvents *obj );
+PB_API void                    sipsnHeaderAllowEventsRelease( SipsnHeaderAllowEvents *obj );
+PB_API PbObj                  *sipsnHeaderAllowEventsObj( SipsnHeaderAllowEvents *obj );
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsFrom( PbObj *obj );
+PB_API PbSort                 *sipsnHeaderAllowEventsSort( void );
+PB_API PbString               *sipsnHeaderAllowEventsToString( SipsnHeaderAllowEvents *obj );
+PB_API int64_t                 sipsnHeaderAllowEventsCompare( SipsnHeaderAllowEvents *a, SipsnHeaderAllowEvents *b );
+PB_API bool                    sipsnHeaderAllowEventsEquals( SipsnHeaderAllowEvents *a, SipsnHeaderAllowEvents *b );
+
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader     *sipsnHeaderAllowEventsEncode( SipsnHeaderAllowEvents *hdr );
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderAllowEventsEncodeToMessage( SipsnHeaderAllowEvents *hdr, SipsnMessage **msg );
+PB_API bool                    sipsnHeaderAllowEventsPresentInMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderAllowEventsRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore                *sipsnHeaderAllowEventsStore( SipsnHeaderAllowEvents *hdr );
+PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderAllowEvents *sipsnHeaderAllowEventsCreate( void );
 
-SIPSN_DECLARE_SET( SipsnHeaderAllowEvents, sipsnHeaderAllowEvents, EventTypes, EventType, eventType )
+/* ./dev lists: SET( EventTypes, EventType ), see sipsn_header.h */
+PB_API int64_t   sipsnHeaderAllowEventsEventTypesLength( SipsnHeaderAllowEvents *hdr );
+PB_API PbString *sipsnHeaderAllowEventsEventTypeAt( SipsnHeaderAllowEvents *hdr, int64_t index );
+PB_API PbVector *sipsnHeaderAllowEventsEventTypesVector( SipsnHeaderAllowEvents *hdr );
+PB_API void      sipsnHeaderAllowEventsSetEventTypesVector( SipsnHeaderAllowEvents **hdr, PbVector *vec );
+PB_API bool      sipsnHeaderAllowEventsHasEventType( SipsnHeaderAllowEvents *hdr, PbString *eventType );
+PB_API void      sipsnHeaderAllowEventsSetEventType( SipsnHeaderAllowEvents **hdr, PbString *eventType );
+PB_API void      sipsnHeaderAllowEventsDelEventType( SipsnHeaderAllowEvents **hdr, PbString *eventType );
+PB_API void      sipsnHeaderAllowEventsClearEventTypes( SipsnHeaderAllowEvents **hdr );
+/* ./dev lists: end */
+
 PB_API bool sipsnHeaderAllowEventsHasEventTypeCstr( SipsnHeaderAllowEvents *hdr, const char *eventType,
                                                     int64_t eventTypeLength );
 PB_API bool sipsnHeaderAllowEventsHasEventTypeWcstr( SipsnHeaderAllowEvents *hdr, const wchar_t *eventType,

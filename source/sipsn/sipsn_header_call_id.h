@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderCallId, sipsnHeaderCallId )
+/* ./dev lists: HEADER( SipsnHeaderCallId ), see sipsn_header.h */
+typedef struct SipsnHeaderCallId SipsnHeaderCallId;
+
+PB_API SipsnHeaderCallId *sipsnHeaderCallIdCreateFrom( SipsnHeaderCallId *source );
+PB_API SipsnHeaderCallId *sipsnHeaderCallIdRetain( SipsnHeaderCallId *obj );
+PB_API void               sipsnHeaderCallIdRelease( SipsnHeaderCallId *obj );
+PB_API PbObj             *sipsnHeaderCallIdObj( SipsnHeaderCallId *obj );
+PB_API SipsnHeaderCallId *sipsnHeaderCallIdFrom( PbObj *obj );
+PB_API PbSort            *sipsnHeaderCallIdSort( void );
+PB_API PbString          *sipsnHeaderCallIdToString( SipsnHeaderCallId *obj );
+PB_API int64_t            sipsnHeaderCallIdCompare( SipsnHeaderCallId *a, SipsnHeaderCallId *b );
+PB_API bool               sipsnHeaderCallIdEquals( SipsnHeaderCallId *a, SipsnHeaderCallId *b );
+
+PB_API SipsnHeaderCallId  *sipsnHeaderCallIdTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderCallIdEncode( SipsnHeaderCallId *hdr );
+PB_API SipsnHeaderCallId  *sipsnHeaderCallIdTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderCallIdEncodeToMessage( SipsnHeaderCallId *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderCallIdPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderCallIdRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderCallIdStore( SipsnHeaderCallId *hdr );
+PB_API SipsnHeaderCallId  *sipsnHeaderCallIdTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderCallId *sipsnHeaderCallIdCreate( PbString *callId );
 

@@ -12,11 +12,40 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderCallInfo, sipsnHeaderCallInfo )
+/* ./dev lists: HEADER( SipsnHeaderCallInfo ), see sipsn_header.h */
+typedef struct SipsnHeaderCallInfo SipsnHeaderCallInfo;
+
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoCreateFrom( SipsnHeaderCallInfo *source );
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoRetain( SipsnHeaderCallInfo *obj );
+PB_API void                 sipsnHeaderCallInfoRelease( SipsnHeaderCallInfo *obj );
+PB_API PbObj               *sipsnHeaderCallInfoObj( SipsnHeaderCallInfo *obj );
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoFrom( PbObj *obj );
+PB_API PbSort              *sipsnHeaderCallInfoSort( void );
+PB_API PbString            *sipsnHeaderCallInfoToString( SipsnHeaderCallInfo *obj );
+PB_API int64_t              sipsnHeaderCallInfoCompare( SipsnHeaderCallInfo *a, SipsnHeaderCallInfo *b );
+PB_API bool                 sipsnHeaderCallInfoEquals( SipsnHeaderCallInfo *a, SipsnHeaderCallInfo *b );
+
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader  *sipsnHeaderCallInfoEncode( SipsnHeaderCallInfo *hdr );
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderCallInfoEncodeToMessage( SipsnHeaderCallInfo *hdr, SipsnMessage **msg );
+PB_API bool                 sipsnHeaderCallInfoPresentInMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderCallInfoRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore             *sipsnHeaderCallInfoStore( SipsnHeaderCallInfo *hdr );
+PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderCallInfo *sipsnHeaderCallInfoCreate( void );
 
-SIPSN_DECLARE_LIST( SipsnHeaderCallInfo, sipsnHeaderCallInfo, CallInfos, CallInfo, SipsnCallInfo, callInfo )
+/* ./dev lists: LIST( CallInfos, CallInfo, SipsnCallInfo ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderCallInfoCallInfosLength( SipsnHeaderCallInfo *hdr );
+PB_API void    sipsnHeaderCallInfoAppendCallInfo( SipsnHeaderCallInfo **hdr, SipsnCallInfo *callInfo );
+PB_API void    sipsnHeaderCallInfoPrependCallInfo( SipsnHeaderCallInfo **hdr, SipsnCallInfo *callInfo );
+PB_API void    sipsnHeaderCallInfoInsertCallInfo( SipsnHeaderCallInfo **hdr, int64_t index, SipsnCallInfo *callInfo );
+PB_API void    sipsnHeaderCallInfoSetCallInfoAt( SipsnHeaderCallInfo **hdr, int64_t index, SipsnCallInfo *callInfo );
+PB_API void    sipsnHeaderCallInfoDelCallInfoAt( SipsnHeaderCallInfo **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API SipsnCallInfo *sipsnHeaderCallInfoTryDecodeCallInfoAt( SipsnHeaderCallInfo *hdr, int64_t index );
 PB_API void           sipsnHeaderCallInfoClearCallInfos( SipsnHeaderCallInfo **hdr );
 

@@ -17,14 +17,43 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderContact, sipsnHeaderContact )
+/* ./dev lists: HEADER( SipsnHeaderContact ), see sipsn_header.h */
+typedef struct SipsnHeaderContact SipsnHeaderContact;
+
+PB_API SipsnHeaderContact *sipsnHeaderContactCreateFrom( SipsnHeaderContact *source );
+PB_API SipsnHeaderContact *sipsnHeaderContactRetain( SipsnHeaderContact *obj );
+PB_API void                sipsnHeaderContactRelease( SipsnHeaderContact *obj );
+PB_API PbObj              *sipsnHeaderContactObj( SipsnHeaderContact *obj );
+PB_API SipsnHeaderContact *sipsnHeaderContactFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderContactSort( void );
+PB_API PbString           *sipsnHeaderContactToString( SipsnHeaderContact *obj );
+PB_API int64_t             sipsnHeaderContactCompare( SipsnHeaderContact *a, SipsnHeaderContact *b );
+PB_API bool                sipsnHeaderContactEquals( SipsnHeaderContact *a, SipsnHeaderContact *b );
+
+PB_API SipsnHeaderContact *sipsnHeaderContactTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderContactEncode( SipsnHeaderContact *hdr );
+PB_API SipsnHeaderContact *sipsnHeaderContactTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderContactEncodeToMessage( SipsnHeaderContact *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderContactPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderContactRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderContactStore( SipsnHeaderContact *hdr );
+PB_API SipsnHeaderContact *sipsnHeaderContactTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderContact *sipsnHeaderContactCreate( void );
 
 PB_API bool sipsnHeaderContactIsStarForm( SipsnHeaderContact *hdr );
 PB_API void sipsnHeaderContactSetStarForm( SipsnHeaderContact **hdr, bool starForm ); /* drops all contacts */
 
-SIPSN_DECLARE_LIST( SipsnHeaderContact, sipsnHeaderContact, Contacts, Contact, SipsnContact, contact )
+/* ./dev lists: LIST( Contacts, Contact, SipsnContact ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderContactContactsLength( SipsnHeaderContact *hdr );
+PB_API void    sipsnHeaderContactAppendContact( SipsnHeaderContact **hdr, SipsnContact *contact );
+PB_API void    sipsnHeaderContactPrependContact( SipsnHeaderContact **hdr, SipsnContact *contact );
+PB_API void    sipsnHeaderContactInsertContact( SipsnHeaderContact **hdr, int64_t index, SipsnContact *contact );
+PB_API void    sipsnHeaderContactSetContactAt( SipsnHeaderContact **hdr, int64_t index, SipsnContact *contact );
+PB_API void    sipsnHeaderContactDelContactAt( SipsnHeaderContact **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API SipsnContact *sipsnHeaderContactTryDecodeContactAt( SipsnHeaderContact *hdr, int64_t index );
 PB_API void          sipsnHeaderContactClear( SipsnHeaderContact **hdr ); /* ends the star form as well */
 

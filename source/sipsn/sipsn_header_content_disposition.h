@@ -21,7 +21,29 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderContentDisposition, sipsnHeaderContentDisposition )
+/* ./dev lists: HEADER( SipsnHeaderContentDisposition ), see sipsn_header.h */
+typedef struct SipsnHeaderContentDisposition SipsnHeaderContentDisposition;
+
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionCreateFrom( SipsnHeaderContentDisposition *source );
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionRetain( SipsnHeaderContentDisposition *obj );
+PB_API void                           sipsnHeaderContentDispositionRelease( SipsnHeaderContentDisposition *obj );
+PB_API PbObj                         *sipsnHeaderContentDispositionObj( SipsnHeaderContentDisposition *obj );
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionFrom( PbObj *obj );
+PB_API PbSort                        *sipsnHeaderContentDispositionSort( void );
+PB_API PbString                      *sipsnHeaderContentDispositionToString( SipsnHeaderContentDisposition *obj );
+PB_API int64_t                        sipsnHeaderContentDispositionCompare( SipsnHeaderContentDisposition *a,
+                                                                            SipsnHeaderContentDisposition *b );
+PB_API bool sipsnHeaderContentDispositionEquals( SipsnHeaderContentDisposition *a, SipsnHeaderContentDisposition *b );
+
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader            *sipsnHeaderContentDispositionEncode( SipsnHeaderContentDisposition *hdr );
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderContentDispositionEncodeToMessage( SipsnHeaderContentDisposition *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderContentDispositionPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderContentDispositionRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderContentDispositionStore( SipsnHeaderContentDisposition *hdr );
+PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderContentDisposition *sipsnHeaderContentDispositionCreate( PbString *dispositionType );
 

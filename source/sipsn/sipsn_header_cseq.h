@@ -19,7 +19,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderCseq, sipsnHeaderCseq )
+/* ./dev lists: HEADER( SipsnHeaderCseq ), see sipsn_header.h */
+typedef struct SipsnHeaderCseq SipsnHeaderCseq;
+
+PB_API SipsnHeaderCseq *sipsnHeaderCseqCreateFrom( SipsnHeaderCseq *source );
+PB_API SipsnHeaderCseq *sipsnHeaderCseqRetain( SipsnHeaderCseq *obj );
+PB_API void             sipsnHeaderCseqRelease( SipsnHeaderCseq *obj );
+PB_API PbObj           *sipsnHeaderCseqObj( SipsnHeaderCseq *obj );
+PB_API SipsnHeaderCseq *sipsnHeaderCseqFrom( PbObj *obj );
+PB_API PbSort          *sipsnHeaderCseqSort( void );
+PB_API PbString        *sipsnHeaderCseqToString( SipsnHeaderCseq *obj );
+PB_API int64_t          sipsnHeaderCseqCompare( SipsnHeaderCseq *a, SipsnHeaderCseq *b );
+PB_API bool             sipsnHeaderCseqEquals( SipsnHeaderCseq *a, SipsnHeaderCseq *b );
+
+PB_API SipsnHeaderCseq    *sipsnHeaderCseqTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderCseqEncode( SipsnHeaderCseq *hdr );
+PB_API SipsnHeaderCseq    *sipsnHeaderCseqTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderCseqEncodeToMessage( SipsnHeaderCseq *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderCseqPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderCseqRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderCseqStore( SipsnHeaderCseq *hdr );
+PB_API SipsnHeaderCseq    *sipsnHeaderCseqTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderCseq *sipsnHeaderCseqCreate( int64_t cseq, PbString *method );
 

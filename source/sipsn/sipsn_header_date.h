@@ -19,7 +19,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderDate, sipsnHeaderDate )
+/* ./dev lists: HEADER( SipsnHeaderDate ), see sipsn_header.h */
+typedef struct SipsnHeaderDate SipsnHeaderDate;
+
+PB_API SipsnHeaderDate *sipsnHeaderDateCreateFrom( SipsnHeaderDate *source );
+PB_API SipsnHeaderDate *sipsnHeaderDateRetain( SipsnHeaderDate *obj );
+PB_API void             sipsnHeaderDateRelease( SipsnHeaderDate *obj );
+PB_API PbObj           *sipsnHeaderDateObj( SipsnHeaderDate *obj );
+PB_API SipsnHeaderDate *sipsnHeaderDateFrom( PbObj *obj );
+PB_API PbSort          *sipsnHeaderDateSort( void );
+PB_API PbString        *sipsnHeaderDateToString( SipsnHeaderDate *obj );
+PB_API int64_t          sipsnHeaderDateCompare( SipsnHeaderDate *a, SipsnHeaderDate *b );
+PB_API bool             sipsnHeaderDateEquals( SipsnHeaderDate *a, SipsnHeaderDate *b );
+
+PB_API SipsnHeaderDate    *sipsnHeaderDateTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderDateEncode( SipsnHeaderDate *hdr );
+PB_API SipsnHeaderDate    *sipsnHeaderDateTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderDateEncodeToMessage( SipsnHeaderDate *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderDatePresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderDateRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderDateStore( SipsnHeaderDate *hdr );
+PB_API SipsnHeaderDate    *sipsnHeaderDateTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderDate *sipsnHeaderDateCreate( PbTime *tm );
 PB_API SipsnHeaderDate *sipsnHeaderDateCreateFromCurrentTime( void ); /* the system clock */

@@ -23,7 +23,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderEvent, sipsnHeaderEvent )
+/* ./dev lists: HEADER( SipsnHeaderEvent ), see sipsn_header.h */
+typedef struct SipsnHeaderEvent SipsnHeaderEvent;
+
+PB_API SipsnHeaderEvent *sipsnHeaderEventCreateFrom( SipsnHeaderEvent *source );
+PB_API SipsnHeaderEvent *sipsnHeaderEventRetain( SipsnHeaderEvent *obj );
+PB_API void              sipsnHeaderEventRelease( SipsnHeaderEvent *obj );
+PB_API PbObj            *sipsnHeaderEventObj( SipsnHeaderEvent *obj );
+PB_API SipsnHeaderEvent *sipsnHeaderEventFrom( PbObj *obj );
+PB_API PbSort           *sipsnHeaderEventSort( void );
+PB_API PbString         *sipsnHeaderEventToString( SipsnHeaderEvent *obj );
+PB_API int64_t           sipsnHeaderEventCompare( SipsnHeaderEvent *a, SipsnHeaderEvent *b );
+PB_API bool              sipsnHeaderEventEquals( SipsnHeaderEvent *a, SipsnHeaderEvent *b );
+
+PB_API SipsnHeaderEvent   *sipsnHeaderEventTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderEventEncode( SipsnHeaderEvent *hdr );
+PB_API SipsnHeaderEvent   *sipsnHeaderEventTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderEventEncodeToMessage( SipsnHeaderEvent *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderEventPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderEventRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderEventStore( SipsnHeaderEvent *hdr );
+PB_API SipsnHeaderEvent   *sipsnHeaderEventTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderEvent *sipsnHeaderEventCreate( PbString *eventType );
 PB_API SipsnHeaderEvent *sipsnHeaderEventCreateCstr( const char *eventType, int64_t eventTypeLength );

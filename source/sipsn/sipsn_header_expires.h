@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderExpires, sipsnHeaderExpires )
+/* ./dev lists: HEADER( SipsnHeaderExpires ), see sipsn_header.h */
+typedef struct SipsnHeaderExpires SipsnHeaderExpires;
+
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresCreateFrom( SipsnHeaderExpires *source );
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresRetain( SipsnHeaderExpires *obj );
+PB_API void                sipsnHeaderExpiresRelease( SipsnHeaderExpires *obj );
+PB_API PbObj              *sipsnHeaderExpiresObj( SipsnHeaderExpires *obj );
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderExpiresSort( void );
+PB_API PbString           *sipsnHeaderExpiresToString( SipsnHeaderExpires *obj );
+PB_API int64_t             sipsnHeaderExpiresCompare( SipsnHeaderExpires *a, SipsnHeaderExpires *b );
+PB_API bool                sipsnHeaderExpiresEquals( SipsnHeaderExpires *a, SipsnHeaderExpires *b );
+
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderExpiresEncode( SipsnHeaderExpires *hdr );
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderExpiresEncodeToMessage( SipsnHeaderExpires *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderExpiresPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderExpiresRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderExpiresStore( SipsnHeaderExpires *hdr );
+PB_API SipsnHeaderExpires *sipsnHeaderExpiresTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderExpires *sipsnHeaderExpiresCreate( int64_t deltaSeconds );
 

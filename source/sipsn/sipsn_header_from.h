@@ -28,7 +28,28 @@ struct SipsnHeaderTo;
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderFrom, sipsnHeaderFrom )
+/* ./dev lists: HEADER( SipsnHeaderFrom ), see sipsn_header.h */
+typedef struct SipsnHeaderFrom SipsnHeaderFrom;
+
+PB_API SipsnHeaderFrom *sipsnHeaderFromCreateFrom( SipsnHeaderFrom *source );
+PB_API SipsnHeaderFrom *sipsnHeaderFromRetain( SipsnHeaderFrom *obj );
+PB_API void             sipsnHeaderFromRelease( SipsnHeaderFrom *obj );
+PB_API PbObj           *sipsnHeaderFromObj( SipsnHeaderFrom *obj );
+PB_API SipsnHeaderFrom *sipsnHeaderFromFrom( PbObj *obj );
+PB_API PbSort          *sipsnHeaderFromSort( void );
+PB_API PbString        *sipsnHeaderFromToString( SipsnHeaderFrom *obj );
+PB_API int64_t          sipsnHeaderFromCompare( SipsnHeaderFrom *a, SipsnHeaderFrom *b );
+PB_API bool             sipsnHeaderFromEquals( SipsnHeaderFrom *a, SipsnHeaderFrom *b );
+
+PB_API SipsnHeaderFrom    *sipsnHeaderFromTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderFromEncode( SipsnHeaderFrom *hdr );
+PB_API SipsnHeaderFrom    *sipsnHeaderFromTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderFromEncodeToMessage( SipsnHeaderFrom *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderFromPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderFromRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderFromStore( SipsnHeaderFrom *hdr );
+PB_API SipsnHeaderFrom    *sipsnHeaderFromTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderFrom *sipsnHeaderFromCreate( PbString *iri );
 

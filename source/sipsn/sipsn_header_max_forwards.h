@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderMaxForwards, sipsnHeaderMaxForwards )
+/* ./dev lists: HEADER( SipsnHeaderMaxForwards ), see sipsn_header.h */
+typedef struct SipsnHeaderMaxForwards SipsnHeaderMaxForwards;
+
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsCreateFrom( SipsnHeaderMaxForwards *source );
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsRetain( SipsnHeaderMaxForwards *obj );
+PB_API void                    sipsnHeaderMaxForwardsRelease( SipsnHeaderMaxForwards *obj );
+PB_API PbObj                  *sipsnHeaderMaxForwardsObj( SipsnHeaderMaxForwards *obj );
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsFrom( PbObj *obj );
+PB_API PbSort                 *sipsnHeaderMaxForwardsSort( void );
+PB_API PbString               *sipsnHeaderMaxForwardsToString( SipsnHeaderMaxForwards *obj );
+PB_API int64_t                 sipsnHeaderMaxForwardsCompare( SipsnHeaderMaxForwards *a, SipsnHeaderMaxForwards *b );
+PB_API bool                    sipsnHeaderMaxForwardsEquals( SipsnHeaderMaxForwards *a, SipsnHeaderMaxForwards *b );
+
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader     *sipsnHeaderMaxForwardsEncode( SipsnHeaderMaxForwards *hdr );
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderMaxForwardsEncodeToMessage( SipsnHeaderMaxForwards *hdr, SipsnMessage **msg );
+PB_API bool                    sipsnHeaderMaxForwardsPresentInMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderMaxForwardsRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore                *sipsnHeaderMaxForwardsStore( SipsnHeaderMaxForwards *hdr );
+PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderMaxForwards *sipsnHeaderMaxForwardsCreate( int64_t maxForwards );
 

@@ -17,7 +17,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderMinExpires, sipsnHeaderMinExpires )
+/* ./dev lists: HEADER( SipsnHeaderMinExpires ), see sipsn_header.h */
+typedef struct SipsnHeaderMinExpires SipsnHeaderMinExpires;
+
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresCreateFrom( SipsnHeaderMinExpires *source );
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresRetain( SipsnHeaderMinExpires *obj );
+PB_API void                   sipsnHeaderMinExpiresRelease( SipsnHeaderMinExpires *obj );
+PB_API PbObj                 *sipsnHeaderMinExpiresObj( SipsnHeaderMinExpires *obj );
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresFrom( PbObj *obj );
+PB_API PbSort                *sipsnHeaderMinExpiresSort( void );
+PB_API PbString              *sipsnHeaderMinExpiresToString( SipsnHeaderMinExpires *obj );
+PB_API int64_t                sipsnHeaderMinExpiresCompare( SipsnHeaderMinExpires *a, SipsnHeaderMinExpires *b );
+PB_API bool                   sipsnHeaderMinExpiresEquals( SipsnHeaderMinExpires *a, SipsnHeaderMinExpires *b );
+
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader    *sipsnHeaderMinExpiresEncode( SipsnHeaderMinExpires *hdr );
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderMinExpiresEncodeToMessage( SipsnHeaderMinExpires *hdr, SipsnMessage **msg );
+PB_API bool                   sipsnHeaderMinExpiresPresentInMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderMinExpiresRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore               *sipsnHeaderMinExpiresStore( SipsnHeaderMinExpires *hdr );
+PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderMinExpires *sipsnHeaderMinExpiresCreate( int64_t deltaSeconds );
 

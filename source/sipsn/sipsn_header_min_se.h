@@ -19,7 +19,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderMinSe, sipsnHeaderMinSe )
+/* ./dev lists: HEADER( SipsnHeaderMinSe ), see sipsn_header.h */
+typedef struct SipsnHeaderMinSe SipsnHeaderMinSe;
+
+PB_API SipsnHeaderMinSe *sipsnHeaderMinSeCreateFrom( SipsnHeaderMinSe *source );
+PB_API SipsnHeaderMinSe *sipsnHeaderMinSeRetain( SipsnHeaderMinSe *obj );
+PB_API void              sipsnHeaderMinSeRelease( SipsnHeaderMinSe *obj );
+PB_API PbObj            *sipsnHeaderMinSeObj( SipsnHeaderMinSe *obj );
+PB_API SipsnHeaderMinSe *sipsnHeaderMinSeFrom( PbObj *obj );
+PB_API PbSort           *sipsnHeaderMinSeSort( void );
+PB_API PbString         *sipsnHeaderMinSeToString( SipsnHeaderMinSe *obj );
+PB_API int64_t           sipsnHeaderMinSeCompare( SipsnHeaderMinSe *a, SipsnHeaderMinSe *b );
+PB_API bool              sipsnHeaderMinSeEquals( SipsnHeaderMinSe *a, SipsnHeaderMinSe *b );
+
+PB_API SipsnHeaderMinSe   *sipsnHeaderMinSeTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderMinSeEncode( SipsnHeaderMinSe *hdr );
+PB_API SipsnHeaderMinSe   *sipsnHeaderMinSeTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderMinSeEncodeToMessage( SipsnHeaderMinSe *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderMinSePresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderMinSeRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderMinSeStore( SipsnHeaderMinSe *hdr );
+PB_API SipsnHeaderMinSe   *sipsnHeaderMinSeTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderMinSe *sipsnHeaderMinSeCreate( int64_t deltaSeconds );
 

@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderOrganization, sipsnHeaderOrganization )
+/* ./dev lists: HEADER( SipsnHeaderOrganization ), see sipsn_header.h */
+typedef struct SipsnHeaderOrganization SipsnHeaderOrganization;
+
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationCreateFrom( SipsnHeaderOrganization *source );
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationRetain( SipsnHeaderOrganization *obj );
+PB_API void                     sipsnHeaderOrganizationRelease( SipsnHeaderOrganization *obj );
+PB_API PbObj                   *sipsnHeaderOrganizationObj( SipsnHeaderOrganization *obj );
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationFrom( PbObj *obj );
+PB_API PbSort                  *sipsnHeaderOrganizationSort( void );
+PB_API PbString                *sipsnHeaderOrganizationToString( SipsnHeaderOrganization *obj );
+PB_API int64_t sipsnHeaderOrganizationCompare( SipsnHeaderOrganization *a, SipsnHeaderOrganization *b );
+PB_API bool    sipsnHeaderOrganizationEquals( SipsnHeaderOrganization *a, SipsnHeaderOrganization *b );
+
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader      *sipsnHeaderOrganizationEncode( SipsnHeaderOrganization *hdr );
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderOrganizationEncodeToMessage( SipsnHeaderOrganization *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderOrganizationPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderOrganizationRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderOrganizationStore( SipsnHeaderOrganization *hdr );
+PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderOrganization *sipsnHeaderOrganizationCreate( PbString *organization );
 

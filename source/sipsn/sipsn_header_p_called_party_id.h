@@ -21,7 +21,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderPCalledPartyId, sipsnHeaderPCalledPartyId )
+/* ./dev lists: HEADER( SipsnHeaderPCalledPartyId ), see sipsn_header.h */
+typedef struct SipsnHeaderPCalledPartyId SipsnHeaderPCalledPartyId;
+
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreateFrom( SipsnHeaderPCalledPartyId *source );
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdRetain( SipsnHeaderPCalledPartyId *obj );
+PB_API void                       sipsnHeaderPCalledPartyIdRelease( SipsnHeaderPCalledPartyId *obj );
+PB_API PbObj                     *sipsnHeaderPCalledPartyIdObj( SipsnHeaderPCalledPartyId *obj );
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdFrom( PbObj *obj );
+PB_API PbSort                    *sipsnHeaderPCalledPartyIdSort( void );
+PB_API PbString                  *sipsnHeaderPCalledPartyIdToString( SipsnHeaderPCalledPartyId *obj );
+PB_API int64_t sipsnHeaderPCalledPartyIdCompare( SipsnHeaderPCalledPartyId *a, SipsnHeaderPCalledPartyId *b );
+PB_API bool    sipsnHeaderPCalledPartyIdEquals( SipsnHeaderPCalledPartyId *a, SipsnHeaderPCalledPartyId *b );
+
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader        *sipsnHeaderPCalledPartyIdEncode( SipsnHeaderPCalledPartyId *hdr );
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderPCalledPartyIdEncodeToMessage( SipsnHeaderPCalledPartyId *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderPCalledPartyIdPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderPCalledPartyIdRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderPCalledPartyIdStore( SipsnHeaderPCalledPartyId *hdr );
+PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreate( PbString *iri );
 

@@ -18,7 +18,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderPriority, sipsnHeaderPriority )
+/* ./dev lists: HEADER( SipsnHeaderPriority ), see sipsn_header.h */
+typedef struct SipsnHeaderPriority SipsnHeaderPriority;
+
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateFrom( SipsnHeaderPriority *source );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityRetain( SipsnHeaderPriority *obj );
+PB_API void                 sipsnHeaderPriorityRelease( SipsnHeaderPriority *obj );
+PB_API PbObj               *sipsnHeaderPriorityObj( SipsnHeaderPriority *obj );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityFrom( PbObj *obj );
+PB_API PbSort              *sipsnHeaderPrioritySort( void );
+PB_API PbString            *sipsnHeaderPriorityToString( SipsnHeaderPriority *obj );
+PB_API int64_t              sipsnHeaderPriorityCompare( SipsnHeaderPriority *a, SipsnHeaderPriority *b );
+PB_API bool                 sipsnHeaderPriorityEquals( SipsnHeaderPriority *a, SipsnHeaderPriority *b );
+
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader  *sipsnHeaderPriorityEncode( SipsnHeaderPriority *hdr );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderPriorityEncodeToMessage( SipsnHeaderPriority *hdr, SipsnMessage **msg );
+PB_API bool                 sipsnHeaderPriorityPresentInMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderPriorityRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore             *sipsnHeaderPriorityStore( SipsnHeaderPriority *hdr );
+PB_API SipsnHeaderPriority *sipsnHeaderPriorityTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreate( PbString *priorityValue );
 PB_API SipsnHeaderPriority *sipsnHeaderPriorityCreateEmergency( void );

@@ -13,11 +13,42 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderProxyRequire, sipsnHeaderProxyRequire )
+/* ./dev lists: HEADER( SipsnHeaderProxyRequire ), see sipsn_header.h */
+typedef struct SipsnHeaderProxyRequire SipsnHeaderProxyRequire;
+
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireCreateFrom( SipsnHeaderProxyRequire *source );
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireRetain( SipsnHeaderProxyRequire *obj );
+PB_API void                     sipsnHeaderProxyRequireRelease( SipsnHeaderProxyRequire *obj );
+PB_API PbObj                   *sipsnHeaderProxyRequireObj( SipsnHeaderProxyRequire *obj );
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireFrom( PbObj *obj );
+PB_API PbSort                  *sipsnHeaderProxyRequireSort( void );
+PB_API PbString                *sipsnHeaderProxyRequireToString( SipsnHeaderProxyRequire *obj );
+PB_API int64_t sipsnHeaderProxyRequireCompare( SipsnHeaderProxyRequire *a, SipsnHeaderProxyRequire *b );
+PB_API bool    sipsnHeaderProxyRequireEquals( SipsnHeaderProxyRequire *a, SipsnHeaderProxyRequire *b );
+
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader      *sipsnHeaderProxyRequireEncode( SipsnHeaderProxyRequire *hdr );
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderProxyRequireEncodeToMessage( SipsnHeaderProxyRequire *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderProxyRequirePresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderProxyRequireRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderProxyRequireStore( SipsnHeaderProxyRequire *hdr );
+PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderProxyRequire *sipsnHeaderProxyRequireCreate( void );
 
-SIPSN_DECLARE_SET( SipsnHeaderProxyRequire, sipsnHeaderProxyRequire, OptionTags, OptionTag, optionTag )
+/* ./dev lists: SET( OptionTags, OptionTag ), see sipsn_header.h */
+PB_API int64_t   sipsnHeaderProxyRequireOptionTagsLength( SipsnHeaderProxyRequire *hdr );
+PB_API PbString *sipsnHeaderProxyRequireOptionTagAt( SipsnHeaderProxyRequire *hdr, int64_t index );
+PB_API PbVector *sipsnHeaderProxyRequireOptionTagsVector( SipsnHeaderProxyRequire *hdr );
+PB_API void      sipsnHeaderProxyRequireSetOptionTagsVector( SipsnHeaderProxyRequire **hdr, PbVector *vec );
+PB_API bool      sipsnHeaderProxyRequireHasOptionTag( SipsnHeaderProxyRequire *hdr, PbString *optionTag );
+PB_API void      sipsnHeaderProxyRequireSetOptionTag( SipsnHeaderProxyRequire **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderProxyRequireDelOptionTag( SipsnHeaderProxyRequire **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderProxyRequireClearOptionTags( SipsnHeaderProxyRequire **hdr );
+/* ./dev lists: end */
+
 PB_API bool sipsnHeaderProxyRequireHasOptionTagCstr( SipsnHeaderProxyRequire *hdr, const char *optionTag,
                                                      int64_t optionTagLength );
 PB_API bool sipsnHeaderProxyRequireHasOptionTagWcstr( SipsnHeaderProxyRequire *hdr, const wchar_t *optionTag,

@@ -21,7 +21,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRack, sipsnHeaderRack )
+/* ./dev lists: HEADER( SipsnHeaderRack ), see sipsn_header.h */
+typedef struct SipsnHeaderRack SipsnHeaderRack;
+
+PB_API SipsnHeaderRack *sipsnHeaderRackCreateFrom( SipsnHeaderRack *source );
+PB_API SipsnHeaderRack *sipsnHeaderRackRetain( SipsnHeaderRack *obj );
+PB_API void             sipsnHeaderRackRelease( SipsnHeaderRack *obj );
+PB_API PbObj           *sipsnHeaderRackObj( SipsnHeaderRack *obj );
+PB_API SipsnHeaderRack *sipsnHeaderRackFrom( PbObj *obj );
+PB_API PbSort          *sipsnHeaderRackSort( void );
+PB_API PbString        *sipsnHeaderRackToString( SipsnHeaderRack *obj );
+PB_API int64_t          sipsnHeaderRackCompare( SipsnHeaderRack *a, SipsnHeaderRack *b );
+PB_API bool             sipsnHeaderRackEquals( SipsnHeaderRack *a, SipsnHeaderRack *b );
+
+PB_API SipsnHeaderRack    *sipsnHeaderRackTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderRackEncode( SipsnHeaderRack *hdr );
+PB_API SipsnHeaderRack    *sipsnHeaderRackTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRackEncodeToMessage( SipsnHeaderRack *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderRackPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRackRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderRackStore( SipsnHeaderRack *hdr );
+PB_API SipsnHeaderRack    *sipsnHeaderRackTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRack *sipsnHeaderRackCreate( int64_t responseNum, int64_t cseq, PbString *method );
 

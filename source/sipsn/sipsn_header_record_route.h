@@ -12,11 +12,40 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRecordRoute, sipsnHeaderRecordRoute )
+/* ./dev lists: HEADER( SipsnHeaderRecordRoute ), see sipsn_header.h */
+typedef struct SipsnHeaderRecordRoute SipsnHeaderRecordRoute;
+
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteCreateFrom( SipsnHeaderRecordRoute *source );
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteRetain( SipsnHeaderRecordRoute *obj );
+PB_API void                    sipsnHeaderRecordRouteRelease( SipsnHeaderRecordRoute *obj );
+PB_API PbObj                  *sipsnHeaderRecordRouteObj( SipsnHeaderRecordRoute *obj );
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteFrom( PbObj *obj );
+PB_API PbSort                 *sipsnHeaderRecordRouteSort( void );
+PB_API PbString               *sipsnHeaderRecordRouteToString( SipsnHeaderRecordRoute *obj );
+PB_API int64_t                 sipsnHeaderRecordRouteCompare( SipsnHeaderRecordRoute *a, SipsnHeaderRecordRoute *b );
+PB_API bool                    sipsnHeaderRecordRouteEquals( SipsnHeaderRecordRoute *a, SipsnHeaderRecordRoute *b );
+
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader     *sipsnHeaderRecordRouteEncode( SipsnHeaderRecordRoute *hdr );
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderRecordRouteEncodeToMessage( SipsnHeaderRecordRoute *hdr, SipsnMessage **msg );
+PB_API bool                    sipsnHeaderRecordRoutePresentInMessage( SipsnMessage *msg );
+PB_API void                    sipsnHeaderRecordRouteRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore                *sipsnHeaderRecordRouteStore( SipsnHeaderRecordRoute *hdr );
+PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRecordRoute *sipsnHeaderRecordRouteCreate( void );
 
-SIPSN_DECLARE_LIST( SipsnHeaderRecordRoute, sipsnHeaderRecordRoute, Routes, Route, SipsnRoute, route )
+/* ./dev lists: LIST( Routes, Route, SipsnRoute ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderRecordRouteRoutesLength( SipsnHeaderRecordRoute *hdr );
+PB_API void    sipsnHeaderRecordRouteAppendRoute( SipsnHeaderRecordRoute **hdr, SipsnRoute *route );
+PB_API void    sipsnHeaderRecordRoutePrependRoute( SipsnHeaderRecordRoute **hdr, SipsnRoute *route );
+PB_API void    sipsnHeaderRecordRouteInsertRoute( SipsnHeaderRecordRoute **hdr, int64_t index, SipsnRoute *route );
+PB_API void    sipsnHeaderRecordRouteSetRouteAt( SipsnHeaderRecordRoute **hdr, int64_t index, SipsnRoute *route );
+PB_API void    sipsnHeaderRecordRouteDelRouteAt( SipsnHeaderRecordRoute **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API SipsnRoute *sipsnHeaderRecordRouteTryDecodeRouteAt( SipsnHeaderRecordRoute *hdr, int64_t index );
 PB_API void        sipsnHeaderRecordRouteClearRoutes( SipsnHeaderRecordRoute **hdr );
 

@@ -23,7 +23,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderReferTo, sipsnHeaderReferTo )
+/* ./dev lists: HEADER( SipsnHeaderReferTo ), see sipsn_header.h */
+typedef struct SipsnHeaderReferTo SipsnHeaderReferTo;
+
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToCreateFrom( SipsnHeaderReferTo *source );
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToRetain( SipsnHeaderReferTo *obj );
+PB_API void                sipsnHeaderReferToRelease( SipsnHeaderReferTo *obj );
+PB_API PbObj              *sipsnHeaderReferToObj( SipsnHeaderReferTo *obj );
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderReferToSort( void );
+PB_API PbString           *sipsnHeaderReferToToString( SipsnHeaderReferTo *obj );
+PB_API int64_t             sipsnHeaderReferToCompare( SipsnHeaderReferTo *a, SipsnHeaderReferTo *b );
+PB_API bool                sipsnHeaderReferToEquals( SipsnHeaderReferTo *a, SipsnHeaderReferTo *b );
+
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderReferToEncode( SipsnHeaderReferTo *hdr );
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderReferToEncodeToMessage( SipsnHeaderReferTo *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderReferToPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderReferToRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderReferToStore( SipsnHeaderReferTo *hdr );
+PB_API SipsnHeaderReferTo *sipsnHeaderReferToTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderReferTo *sipsnHeaderReferToCreate( PbString *iri );
 

@@ -24,7 +24,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderReferredBy, sipsnHeaderReferredBy )
+/* ./dev lists: HEADER( SipsnHeaderReferredBy ), see sipsn_header.h */
+typedef struct SipsnHeaderReferredBy SipsnHeaderReferredBy;
+
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByCreateFrom( SipsnHeaderReferredBy *source );
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByRetain( SipsnHeaderReferredBy *obj );
+PB_API void                   sipsnHeaderReferredByRelease( SipsnHeaderReferredBy *obj );
+PB_API PbObj                 *sipsnHeaderReferredByObj( SipsnHeaderReferredBy *obj );
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByFrom( PbObj *obj );
+PB_API PbSort                *sipsnHeaderReferredBySort( void );
+PB_API PbString              *sipsnHeaderReferredByToString( SipsnHeaderReferredBy *obj );
+PB_API int64_t                sipsnHeaderReferredByCompare( SipsnHeaderReferredBy *a, SipsnHeaderReferredBy *b );
+PB_API bool                   sipsnHeaderReferredByEquals( SipsnHeaderReferredBy *a, SipsnHeaderReferredBy *b );
+
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader    *sipsnHeaderReferredByEncode( SipsnHeaderReferredBy *hdr );
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderReferredByEncodeToMessage( SipsnHeaderReferredBy *hdr, SipsnMessage **msg );
+PB_API bool                   sipsnHeaderReferredByPresentInMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderReferredByRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore               *sipsnHeaderReferredByStore( SipsnHeaderReferredBy *hdr );
+PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByCreate( PbString *iri );
 

@@ -21,7 +21,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRemotePartyId, sipsnHeaderRemotePartyId )
+/* ./dev lists: HEADER( SipsnHeaderRemotePartyId ), see sipsn_header.h */
+typedef struct SipsnHeaderRemotePartyId SipsnHeaderRemotePartyId;
+
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreateFrom( SipsnHeaderRemotePartyId *source );
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdRetain( SipsnHeaderRemotePartyId *obj );
+PB_API void                      sipsnHeaderRemotePartyIdRelease( SipsnHeaderRemotePartyId *obj );
+PB_API PbObj                    *sipsnHeaderRemotePartyIdObj( SipsnHeaderRemotePartyId *obj );
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdFrom( PbObj *obj );
+PB_API PbSort                   *sipsnHeaderRemotePartyIdSort( void );
+PB_API PbString                 *sipsnHeaderRemotePartyIdToString( SipsnHeaderRemotePartyId *obj );
+PB_API int64_t sipsnHeaderRemotePartyIdCompare( SipsnHeaderRemotePartyId *a, SipsnHeaderRemotePartyId *b );
+PB_API bool    sipsnHeaderRemotePartyIdEquals( SipsnHeaderRemotePartyId *a, SipsnHeaderRemotePartyId *b );
+
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader       *sipsnHeaderRemotePartyIdEncode( SipsnHeaderRemotePartyId *hdr );
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderRemotePartyIdEncodeToMessage( SipsnHeaderRemotePartyId *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderRemotePartyIdPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderRemotePartyIdRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderRemotePartyIdStore( SipsnHeaderRemotePartyId *hdr );
+PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreate( PbString *iri );
 

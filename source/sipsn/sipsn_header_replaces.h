@@ -24,7 +24,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderReplaces, sipsnHeaderReplaces )
+/* ./dev lists: HEADER( SipsnHeaderReplaces ), see sipsn_header.h */
+typedef struct SipsnHeaderReplaces SipsnHeaderReplaces;
+
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesCreateFrom( SipsnHeaderReplaces *source );
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesRetain( SipsnHeaderReplaces *obj );
+PB_API void                 sipsnHeaderReplacesRelease( SipsnHeaderReplaces *obj );
+PB_API PbObj               *sipsnHeaderReplacesObj( SipsnHeaderReplaces *obj );
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesFrom( PbObj *obj );
+PB_API PbSort              *sipsnHeaderReplacesSort( void );
+PB_API PbString            *sipsnHeaderReplacesToString( SipsnHeaderReplaces *obj );
+PB_API int64_t              sipsnHeaderReplacesCompare( SipsnHeaderReplaces *a, SipsnHeaderReplaces *b );
+PB_API bool                 sipsnHeaderReplacesEquals( SipsnHeaderReplaces *a, SipsnHeaderReplaces *b );
+
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader  *sipsnHeaderReplacesEncode( SipsnHeaderReplaces *hdr );
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderReplacesEncodeToMessage( SipsnHeaderReplaces *hdr, SipsnMessage **msg );
+PB_API bool                 sipsnHeaderReplacesPresentInMessage( SipsnMessage *msg );
+PB_API void                 sipsnHeaderReplacesRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore             *sipsnHeaderReplacesStore( SipsnHeaderReplaces *hdr );
+PB_API SipsnHeaderReplaces *sipsnHeaderReplacesTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderReplaces *sipsnHeaderReplacesCreate( PbString *callId );
 

@@ -21,7 +21,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderReplyTo, sipsnHeaderReplyTo )
+/* ./dev lists: HEADER( SipsnHeaderReplyTo ), see sipsn_header.h */
+typedef struct SipsnHeaderReplyTo SipsnHeaderReplyTo;
+
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToCreateFrom( SipsnHeaderReplyTo *source );
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToRetain( SipsnHeaderReplyTo *obj );
+PB_API void                sipsnHeaderReplyToRelease( SipsnHeaderReplyTo *obj );
+PB_API PbObj              *sipsnHeaderReplyToObj( SipsnHeaderReplyTo *obj );
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderReplyToSort( void );
+PB_API PbString           *sipsnHeaderReplyToToString( SipsnHeaderReplyTo *obj );
+PB_API int64_t             sipsnHeaderReplyToCompare( SipsnHeaderReplyTo *a, SipsnHeaderReplyTo *b );
+PB_API bool                sipsnHeaderReplyToEquals( SipsnHeaderReplyTo *a, SipsnHeaderReplyTo *b );
+
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderReplyToEncode( SipsnHeaderReplyTo *hdr );
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderReplyToEncodeToMessage( SipsnHeaderReplyTo *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderReplyToPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderReplyToRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderReplyToStore( SipsnHeaderReplyTo *hdr );
+PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToCreate( PbString *iri );
 

@@ -13,11 +13,42 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRequire, sipsnHeaderRequire )
+/* ./dev lists: HEADER( SipsnHeaderRequire ), see sipsn_header.h */
+typedef struct SipsnHeaderRequire SipsnHeaderRequire;
+
+PB_API SipsnHeaderRequire *sipsnHeaderRequireCreateFrom( SipsnHeaderRequire *source );
+PB_API SipsnHeaderRequire *sipsnHeaderRequireRetain( SipsnHeaderRequire *obj );
+PB_API void                sipsnHeaderRequireRelease( SipsnHeaderRequire *obj );
+PB_API PbObj              *sipsnHeaderRequireObj( SipsnHeaderRequire *obj );
+PB_API SipsnHeaderRequire *sipsnHeaderRequireFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderRequireSort( void );
+PB_API PbString           *sipsnHeaderRequireToString( SipsnHeaderRequire *obj );
+PB_API int64_t             sipsnHeaderRequireCompare( SipsnHeaderRequire *a, SipsnHeaderRequire *b );
+PB_API bool                sipsnHeaderRequireEquals( SipsnHeaderRequire *a, SipsnHeaderRequire *b );
+
+PB_API SipsnHeaderRequire *sipsnHeaderRequireTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderRequireEncode( SipsnHeaderRequire *hdr );
+PB_API SipsnHeaderRequire *sipsnHeaderRequireTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRequireEncodeToMessage( SipsnHeaderRequire *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderRequirePresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRequireRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderRequireStore( SipsnHeaderRequire *hdr );
+PB_API SipsnHeaderRequire *sipsnHeaderRequireTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRequire *sipsnHeaderRequireCreate( void );
 
-SIPSN_DECLARE_SET( SipsnHeaderRequire, sipsnHeaderRequire, OptionTags, OptionTag, optionTag )
+/* ./dev lists: SET( OptionTags, OptionTag ), see sipsn_header.h */
+PB_API int64_t   sipsnHeaderRequireOptionTagsLength( SipsnHeaderRequire *hdr );
+PB_API PbString *sipsnHeaderRequireOptionTagAt( SipsnHeaderRequire *hdr, int64_t index );
+PB_API PbVector *sipsnHeaderRequireOptionTagsVector( SipsnHeaderRequire *hdr );
+PB_API void      sipsnHeaderRequireSetOptionTagsVector( SipsnHeaderRequire **hdr, PbVector *vec );
+PB_API bool      sipsnHeaderRequireHasOptionTag( SipsnHeaderRequire *hdr, PbString *optionTag );
+PB_API void      sipsnHeaderRequireSetOptionTag( SipsnHeaderRequire **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderRequireDelOptionTag( SipsnHeaderRequire **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderRequireClearOptionTags( SipsnHeaderRequire **hdr );
+/* ./dev lists: end */
+
 PB_API bool sipsnHeaderRequireHasOptionTagCstr( SipsnHeaderRequire *hdr, const char *optionTag,
                                                 int64_t optionTagLength );
 PB_API bool sipsnHeaderRequireHasOptionTagWcstr( SipsnHeaderRequire *hdr, const wchar_t *optionTag,

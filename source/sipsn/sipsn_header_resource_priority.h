@@ -12,11 +12,42 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderResourcePriority, sipsnHeaderResourcePriority )
+/* ./dev lists: HEADER( SipsnHeaderResourcePriority ), see sipsn_header.h */
+typedef struct SipsnHeaderResourcePriority SipsnHeaderResourcePriority;
+
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityCreateFrom( SipsnHeaderResourcePriority *source );
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityRetain( SipsnHeaderResourcePriority *obj );
+PB_API void                         sipsnHeaderResourcePriorityRelease( SipsnHeaderResourcePriority *obj );
+PB_API PbObj                       *sipsnHeaderResourcePriorityObj( SipsnHeaderResourcePriority *obj );
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityFrom( PbObj *obj );
+PB_API PbSort                      *sipsnHeaderResourcePrioritySort( void );
+PB_API PbString                    *sipsnHeaderResourcePriorityToString( SipsnHeaderResourcePriority *obj );
+PB_API int64_t sipsnHeaderResourcePriorityCompare( SipsnHeaderResourcePriority *a, SipsnHeaderResourcePriority *b );
+PB_API bool    sipsnHeaderResourcePriorityEquals( SipsnHeaderResourcePriority *a, SipsnHeaderResourcePriority *b );
+
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader          *sipsnHeaderResourcePriorityEncode( SipsnHeaderResourcePriority *hdr );
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderResourcePriorityEncodeToMessage( SipsnHeaderResourcePriority *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderResourcePriorityPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderResourcePriorityRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderResourcePriorityStore( SipsnHeaderResourcePriority *hdr );
+PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderResourcePriority *sipsnHeaderResourcePriorityCreate( void );
 
-SIPSN_DECLARE_LIST( SipsnHeaderResourcePriority, sipsnHeaderResourcePriority, Rvalues, Rvalue, PbString, rvalue )
+/* ./dev lists: LIST( Rvalues, Rvalue, PbString ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderResourcePriorityRvaluesLength( SipsnHeaderResourcePriority *hdr );
+PB_API void    sipsnHeaderResourcePriorityAppendRvalue( SipsnHeaderResourcePriority **hdr, PbString *rvalue );
+PB_API void    sipsnHeaderResourcePriorityPrependRvalue( SipsnHeaderResourcePriority **hdr, PbString *rvalue );
+PB_API void    sipsnHeaderResourcePriorityInsertRvalue( SipsnHeaderResourcePriority **hdr, int64_t index,
+                                                        PbString *rvalue );
+PB_API void    sipsnHeaderResourcePrioritySetRvalueAt( SipsnHeaderResourcePriority **hdr, int64_t index,
+                                                       PbString *rvalue );
+PB_API void    sipsnHeaderResourcePriorityDelRvalueAt( SipsnHeaderResourcePriority **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API PbString *sipsnHeaderResourcePriorityRvalueAt( SipsnHeaderResourcePriority *hdr, int64_t index );
 PB_API void      sipsnHeaderResourcePriorityClearRvalues( SipsnHeaderResourcePriority **hdr );
 

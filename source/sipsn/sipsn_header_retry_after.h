@@ -21,7 +21,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRetryAfter, sipsnHeaderRetryAfter )
+/* ./dev lists: HEADER( SipsnHeaderRetryAfter ), see sipsn_header.h */
+typedef struct SipsnHeaderRetryAfter SipsnHeaderRetryAfter;
+
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterCreateFrom( SipsnHeaderRetryAfter *source );
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterRetain( SipsnHeaderRetryAfter *obj );
+PB_API void                   sipsnHeaderRetryAfterRelease( SipsnHeaderRetryAfter *obj );
+PB_API PbObj                 *sipsnHeaderRetryAfterObj( SipsnHeaderRetryAfter *obj );
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterFrom( PbObj *obj );
+PB_API PbSort                *sipsnHeaderRetryAfterSort( void );
+PB_API PbString              *sipsnHeaderRetryAfterToString( SipsnHeaderRetryAfter *obj );
+PB_API int64_t                sipsnHeaderRetryAfterCompare( SipsnHeaderRetryAfter *a, SipsnHeaderRetryAfter *b );
+PB_API bool                   sipsnHeaderRetryAfterEquals( SipsnHeaderRetryAfter *a, SipsnHeaderRetryAfter *b );
+
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader    *sipsnHeaderRetryAfterEncode( SipsnHeaderRetryAfter *hdr );
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderRetryAfterEncodeToMessage( SipsnHeaderRetryAfter *hdr, SipsnMessage **msg );
+PB_API bool                   sipsnHeaderRetryAfterPresentInMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderRetryAfterRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore               *sipsnHeaderRetryAfterStore( SipsnHeaderRetryAfter *hdr );
+PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRetryAfter *sipsnHeaderRetryAfterCreate( int64_t deltaSeconds );
 

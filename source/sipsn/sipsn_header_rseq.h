@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderRseq, sipsnHeaderRseq )
+/* ./dev lists: HEADER( SipsnHeaderRseq ), see sipsn_header.h */
+typedef struct SipsnHeaderRseq SipsnHeaderRseq;
+
+PB_API SipsnHeaderRseq *sipsnHeaderRseqCreateFrom( SipsnHeaderRseq *source );
+PB_API SipsnHeaderRseq *sipsnHeaderRseqRetain( SipsnHeaderRseq *obj );
+PB_API void             sipsnHeaderRseqRelease( SipsnHeaderRseq *obj );
+PB_API PbObj           *sipsnHeaderRseqObj( SipsnHeaderRseq *obj );
+PB_API SipsnHeaderRseq *sipsnHeaderRseqFrom( PbObj *obj );
+PB_API PbSort          *sipsnHeaderRseqSort( void );
+PB_API PbString        *sipsnHeaderRseqToString( SipsnHeaderRseq *obj );
+PB_API int64_t          sipsnHeaderRseqCompare( SipsnHeaderRseq *a, SipsnHeaderRseq *b );
+PB_API bool             sipsnHeaderRseqEquals( SipsnHeaderRseq *a, SipsnHeaderRseq *b );
+
+PB_API SipsnHeaderRseq    *sipsnHeaderRseqTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderRseqEncode( SipsnHeaderRseq *hdr );
+PB_API SipsnHeaderRseq    *sipsnHeaderRseqTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRseqEncodeToMessage( SipsnHeaderRseq *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderRseqPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderRseqRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderRseqStore( SipsnHeaderRseq *hdr );
+PB_API SipsnHeaderRseq    *sipsnHeaderRseqTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderRseq *sipsnHeaderRseqCreate( int64_t responseNum );
 

@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderServer, sipsnHeaderServer )
+/* ./dev lists: HEADER( SipsnHeaderServer ), see sipsn_header.h */
+typedef struct SipsnHeaderServer SipsnHeaderServer;
+
+PB_API SipsnHeaderServer *sipsnHeaderServerCreateFrom( SipsnHeaderServer *source );
+PB_API SipsnHeaderServer *sipsnHeaderServerRetain( SipsnHeaderServer *obj );
+PB_API void               sipsnHeaderServerRelease( SipsnHeaderServer *obj );
+PB_API PbObj             *sipsnHeaderServerObj( SipsnHeaderServer *obj );
+PB_API SipsnHeaderServer *sipsnHeaderServerFrom( PbObj *obj );
+PB_API PbSort            *sipsnHeaderServerSort( void );
+PB_API PbString          *sipsnHeaderServerToString( SipsnHeaderServer *obj );
+PB_API int64_t            sipsnHeaderServerCompare( SipsnHeaderServer *a, SipsnHeaderServer *b );
+PB_API bool               sipsnHeaderServerEquals( SipsnHeaderServer *a, SipsnHeaderServer *b );
+
+PB_API SipsnHeaderServer  *sipsnHeaderServerTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderServerEncode( SipsnHeaderServer *hdr );
+PB_API SipsnHeaderServer  *sipsnHeaderServerTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderServerEncodeToMessage( SipsnHeaderServer *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderServerPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderServerRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderServerStore( SipsnHeaderServer *hdr );
+PB_API SipsnHeaderServer  *sipsnHeaderServerTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderServer *sipsnHeaderServerCreate( PbString *server );
 

@@ -23,7 +23,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderSessionExpires, sipsnHeaderSessionExpires )
+/* ./dev lists: HEADER( SipsnHeaderSessionExpires ), see sipsn_header.h */
+typedef struct SipsnHeaderSessionExpires SipsnHeaderSessionExpires;
+
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresCreateFrom( SipsnHeaderSessionExpires *source );
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresRetain( SipsnHeaderSessionExpires *obj );
+PB_API void                       sipsnHeaderSessionExpiresRelease( SipsnHeaderSessionExpires *obj );
+PB_API PbObj                     *sipsnHeaderSessionExpiresObj( SipsnHeaderSessionExpires *obj );
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresFrom( PbObj *obj );
+PB_API PbSort                    *sipsnHeaderSessionExpiresSort( void );
+PB_API PbString                  *sipsnHeaderSessionExpiresToString( SipsnHeaderSessionExpires *obj );
+PB_API int64_t sipsnHeaderSessionExpiresCompare( SipsnHeaderSessionExpires *a, SipsnHeaderSessionExpires *b );
+PB_API bool    sipsnHeaderSessionExpiresEquals( SipsnHeaderSessionExpires *a, SipsnHeaderSessionExpires *b );
+
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader        *sipsnHeaderSessionExpiresEncode( SipsnHeaderSessionExpires *hdr );
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderSessionExpiresEncodeToMessage( SipsnHeaderSessionExpires *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderSessionExpiresPresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderSessionExpiresRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderSessionExpiresStore( SipsnHeaderSessionExpires *hdr );
+PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderSessionExpires *sipsnHeaderSessionExpiresCreate( int64_t deltaSeconds );
 

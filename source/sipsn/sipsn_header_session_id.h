@@ -22,7 +22,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderSessionId, sipsnHeaderSessionId )
+/* ./dev lists: HEADER( SipsnHeaderSessionId ), see sipsn_header.h */
+typedef struct SipsnHeaderSessionId SipsnHeaderSessionId;
+
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdCreateFrom( SipsnHeaderSessionId *source );
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdRetain( SipsnHeaderSessionId *obj );
+PB_API void                  sipsnHeaderSessionIdRelease( SipsnHeaderSessionId *obj );
+PB_API PbObj                *sipsnHeaderSessionIdObj( SipsnHeaderSessionId *obj );
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdFrom( PbObj *obj );
+PB_API PbSort               *sipsnHeaderSessionIdSort( void );
+PB_API PbString             *sipsnHeaderSessionIdToString( SipsnHeaderSessionId *obj );
+PB_API int64_t               sipsnHeaderSessionIdCompare( SipsnHeaderSessionId *a, SipsnHeaderSessionId *b );
+PB_API bool                  sipsnHeaderSessionIdEquals( SipsnHeaderSessionId *a, SipsnHeaderSessionId *b );
+
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader   *sipsnHeaderSessionIdEncode( SipsnHeaderSessionId *hdr );
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderSessionIdEncodeToMessage( SipsnHeaderSessionId *hdr, SipsnMessage **msg );
+PB_API bool                  sipsnHeaderSessionIdPresentInMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderSessionIdRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore              *sipsnHeaderSessionIdStore( SipsnHeaderSessionId *hdr );
+PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderSessionId *sipsnHeaderSessionIdCreate( PbString *sessUuid );
 

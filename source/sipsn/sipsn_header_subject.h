@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderSubject, sipsnHeaderSubject )
+/* ./dev lists: HEADER( SipsnHeaderSubject ), see sipsn_header.h */
+typedef struct SipsnHeaderSubject SipsnHeaderSubject;
+
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectCreateFrom( SipsnHeaderSubject *source );
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectRetain( SipsnHeaderSubject *obj );
+PB_API void                sipsnHeaderSubjectRelease( SipsnHeaderSubject *obj );
+PB_API PbObj              *sipsnHeaderSubjectObj( SipsnHeaderSubject *obj );
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderSubjectSort( void );
+PB_API PbString           *sipsnHeaderSubjectToString( SipsnHeaderSubject *obj );
+PB_API int64_t             sipsnHeaderSubjectCompare( SipsnHeaderSubject *a, SipsnHeaderSubject *b );
+PB_API bool                sipsnHeaderSubjectEquals( SipsnHeaderSubject *a, SipsnHeaderSubject *b );
+
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderSubjectEncode( SipsnHeaderSubject *hdr );
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderSubjectEncodeToMessage( SipsnHeaderSubject *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderSubjectPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderSubjectRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderSubjectStore( SipsnHeaderSubject *hdr );
+PB_API SipsnHeaderSubject *sipsnHeaderSubjectTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderSubject *sipsnHeaderSubjectCreate( PbString *subject );
 

@@ -27,7 +27,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderSubscriptionState, sipsnHeaderSubscriptionState )
+/* ./dev lists: HEADER( SipsnHeaderSubscriptionState ), see sipsn_header.h */
+typedef struct SipsnHeaderSubscriptionState SipsnHeaderSubscriptionState;
+
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateCreateFrom( SipsnHeaderSubscriptionState *source );
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateRetain( SipsnHeaderSubscriptionState *obj );
+PB_API void                          sipsnHeaderSubscriptionStateRelease( SipsnHeaderSubscriptionState *obj );
+PB_API PbObj                        *sipsnHeaderSubscriptionStateObj( SipsnHeaderSubscriptionState *obj );
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateFrom( PbObj *obj );
+PB_API PbSort                       *sipsnHeaderSubscriptionStateSort( void );
+PB_API PbString                     *sipsnHeaderSubscriptionStateToString( SipsnHeaderSubscriptionState *obj );
+PB_API int64_t sipsnHeaderSubscriptionStateCompare( SipsnHeaderSubscriptionState *a, SipsnHeaderSubscriptionState *b );
+PB_API bool    sipsnHeaderSubscriptionStateEquals( SipsnHeaderSubscriptionState *a, SipsnHeaderSubscriptionState *b );
+
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader           *sipsnHeaderSubscriptionStateEncode( SipsnHeaderSubscriptionState *hdr );
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderSubscriptionStateEncodeToMessage( SipsnHeaderSubscriptionState *hdr, SipsnMessage **msg );
+PB_API bool     sipsnHeaderSubscriptionStatePresentInMessage( SipsnMessage *msg );
+PB_API void     sipsnHeaderSubscriptionStateRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore *sipsnHeaderSubscriptionStateStore( SipsnHeaderSubscriptionState *hdr );
+PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderSubscriptionState *sipsnHeaderSubscriptionStateCreate( PbString *substateValue );
 

@@ -13,11 +13,42 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderSupported, sipsnHeaderSupported )
+/* ./dev lists: HEADER( SipsnHeaderSupported ), see sipsn_header.h */
+typedef struct SipsnHeaderSupported SipsnHeaderSupported;
+
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedCreateFrom( SipsnHeaderSupported *source );
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedRetain( SipsnHeaderSupported *obj );
+PB_API void                  sipsnHeaderSupportedRelease( SipsnHeaderSupported *obj );
+PB_API PbObj                *sipsnHeaderSupportedObj( SipsnHeaderSupported *obj );
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedFrom( PbObj *obj );
+PB_API PbSort               *sipsnHeaderSupportedSort( void );
+PB_API PbString             *sipsnHeaderSupportedToString( SipsnHeaderSupported *obj );
+PB_API int64_t               sipsnHeaderSupportedCompare( SipsnHeaderSupported *a, SipsnHeaderSupported *b );
+PB_API bool                  sipsnHeaderSupportedEquals( SipsnHeaderSupported *a, SipsnHeaderSupported *b );
+
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader   *sipsnHeaderSupportedEncode( SipsnHeaderSupported *hdr );
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderSupportedEncodeToMessage( SipsnHeaderSupported *hdr, SipsnMessage **msg );
+PB_API bool                  sipsnHeaderSupportedPresentInMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderSupportedRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore              *sipsnHeaderSupportedStore( SipsnHeaderSupported *hdr );
+PB_API SipsnHeaderSupported *sipsnHeaderSupportedTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderSupported *sipsnHeaderSupportedCreate( void );
 
-SIPSN_DECLARE_SET( SipsnHeaderSupported, sipsnHeaderSupported, OptionTags, OptionTag, optionTag )
+/* ./dev lists: SET( OptionTags, OptionTag ), see sipsn_header.h */
+PB_API int64_t   sipsnHeaderSupportedOptionTagsLength( SipsnHeaderSupported *hdr );
+PB_API PbString *sipsnHeaderSupportedOptionTagAt( SipsnHeaderSupported *hdr, int64_t index );
+PB_API PbVector *sipsnHeaderSupportedOptionTagsVector( SipsnHeaderSupported *hdr );
+PB_API void      sipsnHeaderSupportedSetOptionTagsVector( SipsnHeaderSupported **hdr, PbVector *vec );
+PB_API bool      sipsnHeaderSupportedHasOptionTag( SipsnHeaderSupported *hdr, PbString *optionTag );
+PB_API void      sipsnHeaderSupportedSetOptionTag( SipsnHeaderSupported **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderSupportedDelOptionTag( SipsnHeaderSupported **hdr, PbString *optionTag );
+PB_API void      sipsnHeaderSupportedClearOptionTags( SipsnHeaderSupported **hdr );
+/* ./dev lists: end */
+
 PB_API bool sipsnHeaderSupportedHasOptionTagCstr( SipsnHeaderSupported *hdr, const char *optionTag,
                                                   int64_t optionTagLength );
 PB_API bool sipsnHeaderSupportedHasOptionTagWcstr( SipsnHeaderSupported *hdr, const wchar_t *optionTag,

@@ -17,7 +17,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderTimestamp, sipsnHeaderTimestamp )
+/* ./dev lists: HEADER( SipsnHeaderTimestamp ), see sipsn_header.h */
+typedef struct SipsnHeaderTimestamp SipsnHeaderTimestamp;
+
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampCreateFrom( SipsnHeaderTimestamp *source );
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampRetain( SipsnHeaderTimestamp *obj );
+PB_API void                  sipsnHeaderTimestampRelease( SipsnHeaderTimestamp *obj );
+PB_API PbObj                *sipsnHeaderTimestampObj( SipsnHeaderTimestamp *obj );
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampFrom( PbObj *obj );
+PB_API PbSort               *sipsnHeaderTimestampSort( void );
+PB_API PbString             *sipsnHeaderTimestampToString( SipsnHeaderTimestamp *obj );
+PB_API int64_t               sipsnHeaderTimestampCompare( SipsnHeaderTimestamp *a, SipsnHeaderTimestamp *b );
+PB_API bool                  sipsnHeaderTimestampEquals( SipsnHeaderTimestamp *a, SipsnHeaderTimestamp *b );
+
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader   *sipsnHeaderTimestampEncode( SipsnHeaderTimestamp *hdr );
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderTimestampEncodeToMessage( SipsnHeaderTimestamp *hdr, SipsnMessage **msg );
+PB_API bool                  sipsnHeaderTimestampPresentInMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderTimestampRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore              *sipsnHeaderTimestampStore( SipsnHeaderTimestamp *hdr );
+PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderTimestamp *sipsnHeaderTimestampCreate( PbString *timestampValue );
 

@@ -28,7 +28,28 @@ struct SipsnHeaderFrom;
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderTo, sipsnHeaderTo )
+/* ./dev lists: HEADER( SipsnHeaderTo ), see sipsn_header.h */
+typedef struct SipsnHeaderTo SipsnHeaderTo;
+
+PB_API SipsnHeaderTo *sipsnHeaderToCreateFrom( SipsnHeaderTo *source );
+PB_API SipsnHeaderTo *sipsnHeaderToRetain( SipsnHeaderTo *obj );
+PB_API void           sipsnHeaderToRelease( SipsnHeaderTo *obj );
+PB_API PbObj         *sipsnHeaderToObj( SipsnHeaderTo *obj );
+PB_API SipsnHeaderTo *sipsnHeaderToFrom( PbObj *obj );
+PB_API PbSort        *sipsnHeaderToSort( void );
+PB_API PbString      *sipsnHeaderToToString( SipsnHeaderTo *obj );
+PB_API int64_t        sipsnHeaderToCompare( SipsnHeaderTo *a, SipsnHeaderTo *b );
+PB_API bool           sipsnHeaderToEquals( SipsnHeaderTo *a, SipsnHeaderTo *b );
+
+PB_API SipsnHeaderTo      *sipsnHeaderToTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderToEncode( SipsnHeaderTo *hdr );
+PB_API SipsnHeaderTo      *sipsnHeaderToTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderToEncodeToMessage( SipsnHeaderTo *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderToPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderToRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderToStore( SipsnHeaderTo *hdr );
+PB_API SipsnHeaderTo      *sipsnHeaderToTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderTo *sipsnHeaderToCreate( PbString *iri );
 

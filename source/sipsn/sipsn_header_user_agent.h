@@ -16,7 +16,28 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderUserAgent, sipsnHeaderUserAgent )
+/* ./dev lists: HEADER( SipsnHeaderUserAgent ), see sipsn_header.h */
+typedef struct SipsnHeaderUserAgent SipsnHeaderUserAgent;
+
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentCreateFrom( SipsnHeaderUserAgent *source );
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentRetain( SipsnHeaderUserAgent *obj );
+PB_API void                  sipsnHeaderUserAgentRelease( SipsnHeaderUserAgent *obj );
+PB_API PbObj                *sipsnHeaderUserAgentObj( SipsnHeaderUserAgent *obj );
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentFrom( PbObj *obj );
+PB_API PbSort               *sipsnHeaderUserAgentSort( void );
+PB_API PbString             *sipsnHeaderUserAgentToString( SipsnHeaderUserAgent *obj );
+PB_API int64_t               sipsnHeaderUserAgentCompare( SipsnHeaderUserAgent *a, SipsnHeaderUserAgent *b );
+PB_API bool                  sipsnHeaderUserAgentEquals( SipsnHeaderUserAgent *a, SipsnHeaderUserAgent *b );
+
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader   *sipsnHeaderUserAgentEncode( SipsnHeaderUserAgent *hdr );
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderUserAgentEncodeToMessage( SipsnHeaderUserAgent *hdr, SipsnMessage **msg );
+PB_API bool                  sipsnHeaderUserAgentPresentInMessage( SipsnMessage *msg );
+PB_API void                  sipsnHeaderUserAgentRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore              *sipsnHeaderUserAgentStore( SipsnHeaderUserAgent *hdr );
+PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderUserAgent *sipsnHeaderUserAgentCreate( PbString *userAgent );
 

@@ -13,11 +13,40 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderUserToUser, sipsnHeaderUserToUser )
+/* ./dev lists: HEADER( SipsnHeaderUserToUser ), see sipsn_header.h */
+typedef struct SipsnHeaderUserToUser SipsnHeaderUserToUser;
+
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserCreateFrom( SipsnHeaderUserToUser *source );
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserRetain( SipsnHeaderUserToUser *obj );
+PB_API void                   sipsnHeaderUserToUserRelease( SipsnHeaderUserToUser *obj );
+PB_API PbObj                 *sipsnHeaderUserToUserObj( SipsnHeaderUserToUser *obj );
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserFrom( PbObj *obj );
+PB_API PbSort                *sipsnHeaderUserToUserSort( void );
+PB_API PbString              *sipsnHeaderUserToUserToString( SipsnHeaderUserToUser *obj );
+PB_API int64_t                sipsnHeaderUserToUserCompare( SipsnHeaderUserToUser *a, SipsnHeaderUserToUser *b );
+PB_API bool                   sipsnHeaderUserToUserEquals( SipsnHeaderUserToUser *a, SipsnHeaderUserToUser *b );
+
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader    *sipsnHeaderUserToUserEncode( SipsnHeaderUserToUser *hdr );
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderUserToUserEncodeToMessage( SipsnHeaderUserToUser *hdr, SipsnMessage **msg );
+PB_API bool                   sipsnHeaderUserToUserPresentInMessage( SipsnMessage *msg );
+PB_API void                   sipsnHeaderUserToUserRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore               *sipsnHeaderUserToUserStore( SipsnHeaderUserToUser *hdr );
+PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderUserToUser *sipsnHeaderUserToUserCreate( void );
 
-SIPSN_DECLARE_LIST( SipsnHeaderUserToUser, sipsnHeaderUserToUser, UuiValues, UuiValue, SipsnUuiValue, uuiValue )
+/* ./dev lists: LIST( UuiValues, UuiValue, SipsnUuiValue ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderUserToUserUuiValuesLength( SipsnHeaderUserToUser *hdr );
+PB_API void    sipsnHeaderUserToUserAppendUuiValue( SipsnHeaderUserToUser **hdr, SipsnUuiValue *uuiValue );
+PB_API void    sipsnHeaderUserToUserPrependUuiValue( SipsnHeaderUserToUser **hdr, SipsnUuiValue *uuiValue );
+PB_API void sipsnHeaderUserToUserInsertUuiValue( SipsnHeaderUserToUser **hdr, int64_t index, SipsnUuiValue *uuiValue );
+PB_API void sipsnHeaderUserToUserSetUuiValueAt( SipsnHeaderUserToUser **hdr, int64_t index, SipsnUuiValue *uuiValue );
+PB_API void sipsnHeaderUserToUserDelUuiValueAt( SipsnHeaderUserToUser **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API SipsnUuiValue *sipsnHeaderUserToUserTryDecodeUuiValueAt( SipsnHeaderUserToUser *hdr, int64_t index );
 PB_API void           sipsnHeaderUserToUserClearUuiValues( SipsnHeaderUserToUser **hdr );
 

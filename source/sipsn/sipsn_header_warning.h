@@ -12,11 +12,40 @@
 
 PB_BEGIN_DECLS
 
-SIPSN_DECLARE_HEADER( SipsnHeaderWarning, sipsnHeaderWarning )
+/* ./dev lists: HEADER( SipsnHeaderWarning ), see sipsn_header.h */
+typedef struct SipsnHeaderWarning SipsnHeaderWarning;
+
+PB_API SipsnHeaderWarning *sipsnHeaderWarningCreateFrom( SipsnHeaderWarning *source );
+PB_API SipsnHeaderWarning *sipsnHeaderWarningRetain( SipsnHeaderWarning *obj );
+PB_API void                sipsnHeaderWarningRelease( SipsnHeaderWarning *obj );
+PB_API PbObj              *sipsnHeaderWarningObj( SipsnHeaderWarning *obj );
+PB_API SipsnHeaderWarning *sipsnHeaderWarningFrom( PbObj *obj );
+PB_API PbSort             *sipsnHeaderWarningSort( void );
+PB_API PbString           *sipsnHeaderWarningToString( SipsnHeaderWarning *obj );
+PB_API int64_t             sipsnHeaderWarningCompare( SipsnHeaderWarning *a, SipsnHeaderWarning *b );
+PB_API bool                sipsnHeaderWarningEquals( SipsnHeaderWarning *a, SipsnHeaderWarning *b );
+
+PB_API SipsnHeaderWarning *sipsnHeaderWarningTryDecode( SipsnMessageHeader *header );
+PB_API SipsnMessageHeader *sipsnHeaderWarningEncode( SipsnHeaderWarning *hdr );
+PB_API SipsnHeaderWarning *sipsnHeaderWarningTryDecodeFromMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderWarningEncodeToMessage( SipsnHeaderWarning *hdr, SipsnMessage **msg );
+PB_API bool                sipsnHeaderWarningPresentInMessage( SipsnMessage *msg );
+PB_API void                sipsnHeaderWarningRemoveFromMessage( SipsnMessage **msg );
+PB_API PbStore            *sipsnHeaderWarningStore( SipsnHeaderWarning *hdr );
+PB_API SipsnHeaderWarning *sipsnHeaderWarningTryRestore( PbStore *store );
+/* ./dev lists: end */
 
 PB_API SipsnHeaderWarning *sipsnHeaderWarningCreate( void );
 
-SIPSN_DECLARE_LIST( SipsnHeaderWarning, sipsnHeaderWarning, Warnings, Warning, SipsnWarningValue, warningValue )
+/* ./dev lists: LIST( Warnings, Warning, SipsnWarningValue ), see sipsn_header.h */
+PB_API int64_t sipsnHeaderWarningWarningsLength( SipsnHeaderWarning *hdr );
+PB_API void    sipsnHeaderWarningAppendWarning( SipsnHeaderWarning **hdr, SipsnWarningValue *warningValue );
+PB_API void    sipsnHeaderWarningPrependWarning( SipsnHeaderWarning **hdr, SipsnWarningValue *warningValue );
+PB_API void sipsnHeaderWarningInsertWarning( SipsnHeaderWarning **hdr, int64_t index, SipsnWarningValue *warningValue );
+PB_API void sipsnHeaderWarningSetWarningAt( SipsnHeaderWarning **hdr, int64_t index, SipsnWarningValue *warningValue );
+PB_API void sipsnHeaderWarningDelWarningAt( SipsnHeaderWarning **hdr, int64_t index );
+/* ./dev lists: end */
+
 PB_API SipsnWarningValue *sipsnHeaderWarningTryDecodeWarningAt( SipsnHeaderWarning *hdr, int64_t index );
 PB_API void               sipsnHeaderWarningWarningsClear( SipsnHeaderWarning **hdr );
 

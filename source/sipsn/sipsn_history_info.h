@@ -23,7 +23,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnHistoryInfo, sipsnHistoryInfo )
+/* ./dev lists: TYPE( SipsnHistoryInfo ), see pb_types.h */
+typedef struct SipsnHistoryInfo SipsnHistoryInfo;
+
+PB_API SipsnHistoryInfo *sipsnHistoryInfoCreateFrom( SipsnHistoryInfo *source );
+PB_API SipsnHistoryInfo *sipsnHistoryInfoRetain( SipsnHistoryInfo *obj );
+PB_API void              sipsnHistoryInfoRelease( SipsnHistoryInfo *obj );
+PB_API PbObj            *sipsnHistoryInfoObj( SipsnHistoryInfo *obj );
+PB_API SipsnHistoryInfo *sipsnHistoryInfoFrom( PbObj *obj );
+PB_API PbSort           *sipsnHistoryInfoSort( void );
+PB_API PbString         *sipsnHistoryInfoToString( SipsnHistoryInfo *obj );
+PB_API int64_t           sipsnHistoryInfoCompare( SipsnHistoryInfo *a, SipsnHistoryInfo *b );
+PB_API bool              sipsnHistoryInfoEquals( SipsnHistoryInfo *a, SipsnHistoryInfo *b );
+/* ./dev lists: end */
 
 PB_API SipsnHistoryInfo *sipsnHistoryInfoCreate( PbString *iri, PbString *index );
 

@@ -18,7 +18,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnIdentityValue, sipsnIdentityValue )
+/* ./dev lists: TYPE( SipsnIdentityValue ), see pb_types.h */
+typedef struct SipsnIdentityValue SipsnIdentityValue;
+
+PB_API SipsnIdentityValue *sipsnIdentityValueCreateFrom( SipsnIdentityValue *source );
+PB_API SipsnIdentityValue *sipsnIdentityValueRetain( SipsnIdentityValue *obj );
+PB_API void                sipsnIdentityValueRelease( SipsnIdentityValue *obj );
+PB_API PbObj              *sipsnIdentityValueObj( SipsnIdentityValue *obj );
+PB_API SipsnIdentityValue *sipsnIdentityValueFrom( PbObj *obj );
+PB_API PbSort             *sipsnIdentityValueSort( void );
+PB_API PbString           *sipsnIdentityValueToString( SipsnIdentityValue *obj );
+PB_API int64_t             sipsnIdentityValueCompare( SipsnIdentityValue *a, SipsnIdentityValue *b );
+PB_API bool                sipsnIdentityValueEquals( SipsnIdentityValue *a, SipsnIdentityValue *b );
+/* ./dev lists: end */
 
 PB_API SipsnIdentityValue *sipsnIdentityValueCreate( PbString *iri );
 

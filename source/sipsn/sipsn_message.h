@@ -11,7 +11,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnMessage, sipsnMessage )
+/* ./dev lists: TYPE( SipsnMessage ), see pb_types.h */
+typedef struct SipsnMessage SipsnMessage;
+
+PB_API SipsnMessage *sipsnMessageCreateFrom( SipsnMessage *source );
+PB_API SipsnMessage *sipsnMessageRetain( SipsnMessage *obj );
+PB_API void          sipsnMessageRelease( SipsnMessage *obj );
+PB_API PbObj        *sipsnMessageObj( SipsnMessage *obj );
+PB_API SipsnMessage *sipsnMessageFrom( PbObj *obj );
+PB_API PbSort       *sipsnMessageSort( void );
+PB_API PbString     *sipsnMessageToString( SipsnMessage *obj );
+PB_API int64_t       sipsnMessageCompare( SipsnMessage *a, SipsnMessage *b );
+PB_API bool          sipsnMessageEquals( SipsnMessage *a, SipsnMessage *b );
+/* ./dev lists: end */
 
 /* Shares the fragment; aborts unless it is a request or a response. */
 PB_API SipsnMessage *sipsnMessageCreate( SipsnMessageFragment *fragment );

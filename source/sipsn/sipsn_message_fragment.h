@@ -21,7 +21,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnMessageFragment, sipsnMessageFragment )
+/* ./dev lists: TYPE( SipsnMessageFragment ), see pb_types.h */
+typedef struct SipsnMessageFragment SipsnMessageFragment;
+
+PB_API SipsnMessageFragment *sipsnMessageFragmentCreateFrom( SipsnMessageFragment *source );
+PB_API SipsnMessageFragment *sipsnMessageFragmentRetain( SipsnMessageFragment *obj );
+PB_API void                  sipsnMessageFragmentRelease( SipsnMessageFragment *obj );
+PB_API PbObj                *sipsnMessageFragmentObj( SipsnMessageFragment *obj );
+PB_API SipsnMessageFragment *sipsnMessageFragmentFrom( PbObj *obj );
+PB_API PbSort               *sipsnMessageFragmentSort( void );
+PB_API PbString             *sipsnMessageFragmentToString( SipsnMessageFragment *obj );
+PB_API int64_t               sipsnMessageFragmentCompare( SipsnMessageFragment *a, SipsnMessageFragment *b );
+PB_API bool                  sipsnMessageFragmentEquals( SipsnMessageFragment *a, SipsnMessageFragment *b );
+/* ./dev lists: end */
 
 PB_API SipsnMessageFragment *sipsnMessageFragmentCreate( void );
 PB_API SipsnMessageFragment *sipsnMessageFragmentCreateRequest( SipsnVersion *version, PbString *method,

@@ -21,7 +21,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnMessageHeader, sipsnMessageHeader )
+/* ./dev lists: TYPE( SipsnMessageHeader ), see pb_types.h */
+typedef struct SipsnMessageHeader SipsnMessageHeader;
+
+PB_API SipsnMessageHeader *sipsnMessageHeaderCreateFrom( SipsnMessageHeader *source );
+PB_API SipsnMessageHeader *sipsnMessageHeaderRetain( SipsnMessageHeader *obj );
+PB_API void                sipsnMessageHeaderRelease( SipsnMessageHeader *obj );
+PB_API PbObj              *sipsnMessageHeaderObj( SipsnMessageHeader *obj );
+PB_API SipsnMessageHeader *sipsnMessageHeaderFrom( PbObj *obj );
+PB_API PbSort             *sipsnMessageHeaderSort( void );
+PB_API PbString           *sipsnMessageHeaderToString( SipsnMessageHeader *obj );
+PB_API int64_t             sipsnMessageHeaderCompare( SipsnMessageHeader *a, SipsnMessageHeader *b );
+PB_API bool                sipsnMessageHeaderEquals( SipsnMessageHeader *a, SipsnMessageHeader *b );
+/* ./dev lists: end */
 
 /* A header without lines. */
 PB_API SipsnMessageHeader *sipsnMessageHeaderCreate( PbString *name );

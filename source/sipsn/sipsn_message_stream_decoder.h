@@ -14,7 +14,18 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_OBJECT( SipsnMessageStreamDecoder, sipsnMessageStreamDecoder )
+/* ./dev lists: OBJECT( SipsnMessageStreamDecoder ), see pb_types.h */
+typedef struct SipsnMessageStreamDecoder SipsnMessageStreamDecoder;
+
+PB_API SipsnMessageStreamDecoder *sipsnMessageStreamDecoderRetain( SipsnMessageStreamDecoder *obj );
+PB_API void                       sipsnMessageStreamDecoderRelease( SipsnMessageStreamDecoder *obj );
+PB_API PbObj                     *sipsnMessageStreamDecoderObj( SipsnMessageStreamDecoder *obj );
+PB_API SipsnMessageStreamDecoder *sipsnMessageStreamDecoderFrom( PbObj *obj );
+PB_API PbSort                    *sipsnMessageStreamDecoderSort( void );
+PB_API PbString                  *sipsnMessageStreamDecoderToString( SipsnMessageStreamDecoder *obj );
+PB_API int64_t sipsnMessageStreamDecoderCompare( SipsnMessageStreamDecoder *a, SipsnMessageStreamDecoder *b );
+PB_API bool    sipsnMessageStreamDecoderEquals( SipsnMessageStreamDecoder *a, SipsnMessageStreamDecoder *b );
+/* ./dev lists: end */
 
 PB_API SipsnMessageStreamDecoder *sipsnMessageStreamDecoderCreate( void );
 

@@ -21,7 +21,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnReason, sipsnReason )
+/* ./dev lists: TYPE( SipsnReason ), see pb_types.h */
+typedef struct SipsnReason SipsnReason;
+
+PB_API SipsnReason *sipsnReasonCreateFrom( SipsnReason *source );
+PB_API SipsnReason *sipsnReasonRetain( SipsnReason *obj );
+PB_API void         sipsnReasonRelease( SipsnReason *obj );
+PB_API PbObj       *sipsnReasonObj( SipsnReason *obj );
+PB_API SipsnReason *sipsnReasonFrom( PbObj *obj );
+PB_API PbSort      *sipsnReasonSort( void );
+PB_API PbString    *sipsnReasonToString( SipsnReason *obj );
+PB_API int64_t      sipsnReasonCompare( SipsnReason *a, SipsnReason *b );
+PB_API bool         sipsnReasonEquals( SipsnReason *a, SipsnReason *b );
+/* ./dev lists: end */
 
 PB_API SipsnReason *sipsnReasonCreate( PbString *reasonProtocol );
 

@@ -21,7 +21,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnRoute, sipsnRoute )
+/* ./dev lists: TYPE( SipsnRoute ), see pb_types.h */
+typedef struct SipsnRoute SipsnRoute;
+
+PB_API SipsnRoute *sipsnRouteCreateFrom( SipsnRoute *source );
+PB_API SipsnRoute *sipsnRouteRetain( SipsnRoute *obj );
+PB_API void        sipsnRouteRelease( SipsnRoute *obj );
+PB_API PbObj      *sipsnRouteObj( SipsnRoute *obj );
+PB_API SipsnRoute *sipsnRouteFrom( PbObj *obj );
+PB_API PbSort     *sipsnRouteSort( void );
+PB_API PbString   *sipsnRouteToString( SipsnRoute *obj );
+PB_API int64_t     sipsnRouteCompare( SipsnRoute *a, SipsnRoute *b );
+PB_API bool        sipsnRouteEquals( SipsnRoute *a, SipsnRoute *b );
+/* ./dev lists: end */
 
 PB_API SipsnRoute *sipsnRouteCreate( PbString *iri );
 

@@ -22,7 +22,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnUuiValue, sipsnUuiValue )
+/* ./dev lists: TYPE( SipsnUuiValue ), see pb_types.h */
+typedef struct SipsnUuiValue SipsnUuiValue;
+
+PB_API SipsnUuiValue *sipsnUuiValueCreateFrom( SipsnUuiValue *source );
+PB_API SipsnUuiValue *sipsnUuiValueRetain( SipsnUuiValue *obj );
+PB_API void           sipsnUuiValueRelease( SipsnUuiValue *obj );
+PB_API PbObj         *sipsnUuiValueObj( SipsnUuiValue *obj );
+PB_API SipsnUuiValue *sipsnUuiValueFrom( PbObj *obj );
+PB_API PbSort        *sipsnUuiValueSort( void );
+PB_API PbString      *sipsnUuiValueToString( SipsnUuiValue *obj );
+PB_API int64_t        sipsnUuiValueCompare( SipsnUuiValue *a, SipsnUuiValue *b );
+PB_API bool           sipsnUuiValueEquals( SipsnUuiValue *a, SipsnUuiValue *b );
+/* ./dev lists: end */
 
 PB_API SipsnUuiValue *sipsnUuiValueCreate( PbString *uuiData );
 

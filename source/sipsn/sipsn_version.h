@@ -14,7 +14,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnVersion, sipsnVersion )
+/* ./dev lists: TYPE( SipsnVersion ), see pb_types.h */
+typedef struct SipsnVersion SipsnVersion;
+
+PB_API SipsnVersion *sipsnVersionCreateFrom( SipsnVersion *source );
+PB_API SipsnVersion *sipsnVersionRetain( SipsnVersion *obj );
+PB_API void          sipsnVersionRelease( SipsnVersion *obj );
+PB_API PbObj        *sipsnVersionObj( SipsnVersion *obj );
+PB_API SipsnVersion *sipsnVersionFrom( PbObj *obj );
+PB_API PbSort       *sipsnVersionSort( void );
+PB_API PbString     *sipsnVersionToString( SipsnVersion *obj );
+PB_API int64_t       sipsnVersionCompare( SipsnVersion *a, SipsnVersion *b );
+PB_API bool          sipsnVersionEquals( SipsnVersion *a, SipsnVersion *b );
+/* ./dev lists: end */
 
 PB_API SipsnVersion *sipsnVersionCreate( PbString *protocolName, PbString *protocolVersion );
 

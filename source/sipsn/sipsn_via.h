@@ -30,7 +30,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnVia, sipsnVia )
+/* ./dev lists: TYPE( SipsnVia ), see pb_types.h */
+typedef struct SipsnVia SipsnVia;
+
+PB_API SipsnVia *sipsnViaCreateFrom( SipsnVia *source );
+PB_API SipsnVia *sipsnViaRetain( SipsnVia *obj );
+PB_API void      sipsnViaRelease( SipsnVia *obj );
+PB_API PbObj    *sipsnViaObj( SipsnVia *obj );
+PB_API SipsnVia *sipsnViaFrom( PbObj *obj );
+PB_API PbSort   *sipsnViaSort( void );
+PB_API PbString *sipsnViaToString( SipsnVia *obj );
+PB_API int64_t   sipsnViaCompare( SipsnVia *a, SipsnVia *b );
+PB_API bool      sipsnViaEquals( SipsnVia *a, SipsnVia *b );
+/* ./dev lists: end */
 
 PB_API SipsnVia *sipsnViaCreate( SipsnVersion *version, PbString *transport, PbString *host );
 PB_API SipsnVia *sipsnViaCreateWithPort( SipsnVersion *version, PbString *transport, PbString *host, int64_t port );

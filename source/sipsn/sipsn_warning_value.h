@@ -22,7 +22,19 @@
 
 PB_BEGIN_DECLS
 
-PB_DECLARE_TYPE( SipsnWarningValue, sipsnWarningValue )
+/* ./dev lists: TYPE( SipsnWarningValue ), see pb_types.h */
+typedef struct SipsnWarningValue SipsnWarningValue;
+
+PB_API SipsnWarningValue *sipsnWarningValueCreateFrom( SipsnWarningValue *source );
+PB_API SipsnWarningValue *sipsnWarningValueRetain( SipsnWarningValue *obj );
+PB_API void               sipsnWarningValueRelease( SipsnWarningValue *obj );
+PB_API PbObj             *sipsnWarningValueObj( SipsnWarningValue *obj );
+PB_API SipsnWarningValue *sipsnWarningValueFrom( PbObj *obj );
+PB_API PbSort            *sipsnWarningValueSort( void );
+PB_API PbString          *sipsnWarningValueToString( SipsnWarningValue *obj );
+PB_API int64_t            sipsnWarningValueCompare( SipsnWarningValue *a, SipsnWarningValue *b );
+PB_API bool               sipsnWarningValueEquals( SipsnWarningValue *a, SipsnWarningValue *b );
+/* ./dev lists: end */
 
 /* With the default text of the code. */
 PB_API SipsnWarningValue *sipsnWarningValueCreate( int64_t warnCode, PbString *warnAgent );
