@@ -136,6 +136,7 @@
 #include "sipsn_response_num.h"
 #include "sipsn_route.h"
 #include "sipsn_rvalue.h"
+#include "sipsn_schema.h"
 #include "sipsn_server.h"
 #include "sipsn_sess_uuid.h"
 #include "sipsn_sip_clean_msg_id.h"
