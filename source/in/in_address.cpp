@@ -3,6 +3,7 @@
 
 #include "in_internal.h"
 #include "iri/iri_internal.h"
+#include "pb/pb_text.h"
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,7 @@ PB_DEFINE_TYPE( InAddress, inAddress, in___sort_IN_ADDRESS, "IN_ADDRESS", in___m
 
 namespace {
 
+using pb::Text;
 using Groups = std::array< uint16_t, 8 >; // of an IPv6 address
 
 InAddress *Create( int64_t length, uint64_t high, uint64_t low )
@@ -36,13 +38,13 @@ InAddress *Create( int64_t length, uint64_t high, uint64_t low )
 }
 
 // An IPv4 address that the scanner has matched.
-uint32_t ReadV4( const PbChar *at, const PbChar *end )
+uint32_t ReadV4( Text text )
 {
     uint32_t address = 0;
     uint32_t octet   = 0;
-    for( ; at != end; ++at ) {
-        if( *at != '.' ) {
-            octet = octet * 10 + uint32_t( *at - '0' );
+    for( int64_t n = 0; n < text.length; ++n ) {
+        if( text[ n ] != '.' ) {
+            octet = octet * 10 + uint32_t( text[ n ] - '0' );
         } else {
             address = address << 8 | octet;
             octet   = 0;
@@ -51,33 +53,29 @@ uint32_t ReadV4( const PbChar *at, const PbChar *end )
     return address << 8 | octet;
 }
 
-uint32_t HexValue( PbChar ch ) { return uint32_t( ch <= '9' ? ch - '0' : ( ch | 0x20 ) - 'a' + 10 ); }
-
 // An IPv6 address that the scanner has matched. The groups after "::" are read into place behind those before it, and
 // then moved to the end.
-Groups ReadV6( const PbChar *at, const PbChar *end )
+Groups ReadV6( Text text )
 {
     Groups groups{};
     auto   next   = groups.begin();
     auto   elided = groups.end(); // where "::" stands
-    while( at != end ) {
-        if( *at == ':' ) {
-            ++at;
-            if( at != end && *at == ':' ) {
-                elided = next;
-                ++at;
-            }
+    while( text.length > 0 ) {
+        if( text.Has( 0, ':' ) ) {
+            if( text.Has( 1, ':' ) ) elided = next;
+            text = text.From( text.Has( 1, ':' ) ? 2 : 1 );
             continue;
         }
-        const PbChar *group = at;
-        uint32_t      value = 0;
-        for( ; at != end && *at != ':' && *at != '.'; ++at ) value = value << 4 | HexValue( *at );
-        if( at != end && *at == '.' ) {
-            value   = ReadV4( group, end );
-            *next++ = uint16_t( value >> 16 );
-            at      = end;
+        const auto [ value, length ] = pb::ReadNumber( text.chs, text.length, pb::Radix< 16 >{}, 0xFFFF );
+        if( text.Has( length, '.' ) ) {
+            const uint32_t address = ReadV4( text );
+
+            *next++ = uint16_t( address >> 16 );
+            *next++ = uint16_t( address );
+            break;
         }
         *next++ = uint16_t( value );
+        text    = text.From( length );
     }
     if( elided != groups.end() ) {
         const auto tail = std::move_backward( elided, next, groups.end() );
@@ -95,32 +93,34 @@ Groups GroupsOf( const InAddress *address )
 }
 
 // Collects a text; the longest is eight groups of four digits.
-struct Text
+struct Output
 {
     PbChar  chs[ 40 ];
-    int64_t length = 0;
+    PbChar *end = chs;
 
-    void Put( char ch ) { chs[ length++ ] = ch; }
-
-    void PutNumber( uint32_t number, uint32_t radix )
+    void Put( std::string_view text )
     {
-        if( number >= radix ) PutNumber( number / radix, radix );
-        Put( "0123456789abcdef"[ number % radix ] );
+        for( char ch : text ) *end++ = ch;
+    }
+
+    template< uint64_t radix > void PutNumber( uint32_t number )
+    {
+        end = pb::WriteNumber( end, number, pb::Radix< radix >{} );
     }
 
     void PutV4( uint32_t address )
     {
         for( int shift = 24; shift >= 0; shift -= 8 ) {
-            PutNumber( address >> shift & 255, 10 );
-            if( shift > 0 ) Put( '.' );
+            PutNumber< 10 >( address >> shift & 255 );
+            if( shift > 0 ) Put( "." );
         }
     }
 
     void PutGroups( const uint16_t *from, const uint16_t *to )
     {
         for( const uint16_t *group = from; group != to; ++group ) {
-            if( group != from ) Put( ':' );
-            PutNumber( *group, 16 );
+            if( group != from ) Put( ":" );
+            PutNumber< 16 >( *group );
         }
     }
 };
@@ -141,14 +141,13 @@ std::pair< size_t, size_t > LongestZeroRun( const Groups &groups )
     return end > 0 ? std::pair{ end - longest, end } : std::pair{ groups.size(), groups.size() };
 }
 
-void PutV6( Text &text, const Groups &groups )
+void PutV6( Output &output, const Groups &groups )
 {
     const auto [ zeros, behind ] = LongestZeroRun( groups );
-    text.PutGroups( groups.data(), groups.data() + zeros );
+    output.PutGroups( groups.data(), groups.data() + zeros );
     if( zeros == behind ) return;
-    text.Put( ':' );
-    text.Put( ':' );
-    text.PutGroups( groups.data() + behind, groups.data() + groups.size() );
+    output.Put( "::" );
+    output.PutGroups( groups.data() + behind, groups.data() + groups.size() );
 }
 
 // Section 5: the prefix ::ffff:0:0/96 says that the rest is an IPv4 address.
@@ -162,12 +161,12 @@ InAddress *inAddressTryCreateFromChars( const PbChar *chs, int64_t length )
     PB_ASSERT( chs || length == 0 );
 
     if( length == 0 ) return nullptr;
-    if( iri___SkipIpV4Address( chs, length ) == length ) return Create( 4, 0, ReadV4( chs, chs + length ) );
+    if( iri___SkipIpV4Address( chs, length ) == length ) return Create( 4, 0, ReadV4( { chs, length } ) );
     if( iri___SkipIpV6Address( chs, length ) != length ) return nullptr;
 
     uint64_t high = 0;
     uint64_t low  = 0;
-    for( uint16_t group : ReadV6( chs, chs + length ) ) {
+    for( uint16_t group : ReadV6( { chs, length } ) ) {
         high = high << 16 | low >> 48;
         low  = low << 16 | group;
     }
@@ -201,14 +200,14 @@ PbBuffer *inAddressBytes( InAddress *address )
 PbString *inAddressToStringShrink( InAddress *address )
 {
     PB_ASSERT( address );
-    Text text;
+    Output output;
     if( address->length == 4 ) {
-        text.PutV4( uint32_t( address->low ) );
+        output.PutV4( uint32_t( address->low ) );
     } else if( IsV4Mapped( address ) ) {
-        for( char ch : std::string_view{ "::ffff:" } ) text.Put( ch );
-        text.PutV4( uint32_t( address->low ) );
+        output.Put( "::ffff:" );
+        output.PutV4( uint32_t( address->low ) );
     } else {
-        PutV6( text, GroupsOf( address ) );
+        PutV6( output, GroupsOf( address ) );
     }
-    return pbStringCreateFromCharsCopy( text.chs, text.length );
+    return pbStringCreateFromCharsCopy( output.chs, output.end - output.chs );
 }

@@ -4,19 +4,17 @@
 
 #include "in_internal.h"
 #include "iri/iri_internal.h"
+#include "pb/pb_text.h"
 
 #include <algorithm>
-#include <array>
 #include <idn2.h>
-#include <span>
-#include <string_view>
 
 namespace {
 
-using Label = std::span< const PbChar >;
-
 constexpr int64_t nameLimit  = 253; // RFC 1034 section 3.1: 255 octets, of which two are no characters
-constexpr size_t  labelLimit = 63;
+constexpr int64_t labelLimit = 63;
+
+using Label = pb::Text;
 
 enum class LabelKind
 {
@@ -26,30 +24,23 @@ enum class LabelKind
     Unicode
 };
 
-constexpr std::array< bool, 128 > isLabelChar = [] { // letters, digits and the hyphen
-    std::array< bool, 128 > table{};
-    for( char ch : std::string_view{ "-0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ" } )
-        table[ size_t( ch ) ] = true;
-    return table;
-}();
+// Letters, digits and the hyphen.
+bool IsLabelChar( PbChar ch ) { return pb::DigitValue( ch ) < 36 || ch == '-'; }
 
 // "xn--" and what should be Punycode, but need not.
-bool HasAcePrefix( Label label )
-{
-    return label.size() > 4 && ( label[ 0 ] | 0x20 ) == 'x' && ( label[ 1 ] | 0x20 ) == 'n' && label[ 2 ] == '-' &&
-           label[ 3 ] == '-';
-}
+bool HasAcePrefix( Label label ) { return label.length > 4 && pb::StartsWithKeyword( label, "xn--" ); }
 
 // Of a label in Unicode this says only that its ASCII characters are good: libidn2 judges the rest.
 LabelKind KindOf( Label label )
 {
-    if( label.empty() || label.size() > labelLimit || label.front() == '-' || label.back() == '-' )
+    const int64_t length = label.length;
+    if( length == 0 || length > labelLimit || label[ 0 ] == '-' || label[ length - 1 ] == '-' )
         return LabelKind::Invalid;
     bool isAscii = true;
-    for( PbChar ch : label ) {
-        if( uint32_t( ch ) >= isLabelChar.size() )
+    for( int64_t n = 0; n < length; ++n ) {
+        if( !pb::IsAscii( label[ n ] ) )
             isAscii = false;
-        else if( !isLabelChar[ size_t( ch ) ] )
+        else if( !IsLabelChar( label[ n ] ) )
             return LabelKind::Invalid;
     }
     if( !isAscii ) return LabelKind::Unicode;
@@ -63,7 +54,7 @@ template< class Visit > bool ForEachLabel( PbString *name, Visit visit )
     const PbChar *end = name->chs + name->length;
     do {
         const PbChar *dot = std::find( at, end, '.' );
-        if( !visit( Label{ at, size_t( dot - at ) } ) ) return false;
+        if( !visit( Label{ at, dot - at } ) ) return false;
         at = dot == end ? end : dot + 1;
     } while( at != end );
     return true;
@@ -77,13 +68,13 @@ template< class Convert > PbString *ConvertLabels( PbString *name, Convert conve
     pb::Ref       converted{ pbStringCreate() };
     const bool    ok = ForEachLabel( name, [ & ]( Label label ) {
         if( !convert( converted.Slot(), label ) ) return false;
-        if( label.data() + label.size() != end ) pbStringAppendChar( converted.Slot(), '.' );
+        if( label.chs + label.length != end ) pbStringAppendChar( converted.Slot(), '.' );
         return true;
     } );
     return ok ? converted.Detach() : nullptr;
 }
 
-void Append( PbString **string, Label label ) { pbStringAppendChars( string, label.data(), int64_t( label.size() ) ); }
+void Append( PbString **string, Label label ) { pbStringAppendChars( string, label.chs, label.length ); }
 
 bool IsLengthOk( PbString *name )
 {
@@ -131,13 +122,14 @@ bool IsConverted( int status )
 // section 2 has it; beyond these nothing is mapped, for what looks alike must not become alike.
 bool AppendAscii( PbString **string, Label label )
 {
-    pb::Ref lower{ pbStringCreateFromCharsCopy( label.data(), int64_t( label.size() ) ) };
+    pb::Ref lower{ pbStringCreateFromCharsCopy( label.chs, label.length ) };
     pbStringToLower( lower.Slot() );
 
-    char      *text   = nullptr;
-    const int  status = idn2_to_ascii_4i2( reinterpret_cast< const uint32_t  *>( lower->chs ), size_t( lower->length ),
-                                           &text, IDN2_NFC_INPUT | IDN2_NO_TR46 );
-    const bool ok     = IsConverted( status );
+    const auto chs = reinterpret_cast< const uint32_t * >( lower->chs );
+
+    char      *text = nullptr;
+    const bool ok =
+        IsConverted( idn2_to_ascii_4i2( chs, size_t( lower->length ), &text, IDN2_NFC_INPUT | IDN2_NO_TR46 ) );
     if( ok ) pbStringAppendCstr( string, text, -1 );
     idn2_free( text );
     return ok;
@@ -160,14 +152,13 @@ PbString *TryMakeAscii( PbString *name )
 bool AppendUnicode( PbString **string, Label label )
 {
     char lower[ labelLimit + 1 ] = {}; // RFC 5891 section 5.3
-    std::transform( label.begin(), label.end(), lower,
-                    []( PbChar ch ) { return char( ch >= 'A' && ch <= 'Z' ? ch + ( 'a' - 'A' ) : ch ); } );
+    for( int64_t n = 0; n < label.length; ++n ) lower[ n ] = char( pb::AsciiLower( label[ n ] ) );
 
     uint32_t *text = nullptr;
     bool      ok   = IsConverted( idn2_to_unicode_8z4z( lower, &text, IDN2_NO_TR46 ) );
     if( ok ) {
         const PbChar *chs = reinterpret_cast< const PbChar * >( text );
-        const Label   unicode{ chs, std::find( chs, chs + labelLimit + 1, 0 ) };
+        const Label   unicode{ chs, std::find( chs, chs + labelLimit + 1, 0 ) - chs };
         pb::Ref       back{ pbStringCreate() };
         ok = KindOf( unicode ) == LabelKind::Unicode && AppendAscii( back.Slot(), unicode ) &&
              pbStringEqualsCstr( back.Get(), lower, -1 );

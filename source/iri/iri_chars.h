@@ -1,7 +1,7 @@
 // The character classes of RFC 3986 and RFC 3987, for the sources of iri. C++ only; never installed.
 #pragma once
 
-#include "pb/pb_scan.h"
+#include "pb/pb_text.h"
 
 #include <cstdint>
 #include <string_view>
@@ -49,13 +49,6 @@ inline constexpr pb::ClassTable< uint16_t > classes = [] {
 
 inline bool Is( PbChar ch, uint16_t mask ) { return pb::IsIn( classes, mask, ch ); }
 
-// The value of a hexadecimal digit, or -1.
-inline int HexValue( PbChar ch )
-{
-    if( !Is( ch, ClassHex ) ) return -1;
-    return ch <= '9' ? ch - '0' : ( ch | 0x20 ) - 'a' + 10;
-}
-
 // ucschar: A0 to the surrogates, and from there on without private use, noncharacters, specials and the tag characters
 // at the start of plane 14.
 inline bool IsUcsChar( PbChar ch )
@@ -69,12 +62,6 @@ inline bool IsUcsChar( PbChar ch )
 inline bool IsPrivateChar( PbChar ch )
 {
     return ( ch >= 0xE000 && ch <= 0xF8FF ) || ( ch >= 0xF0000 && ch <= 0x10FFFD && ( ch & 0xFFFF ) <= 0xFFFD );
-}
-
-// "%" and two hexadecimal digits.
-inline bool StartsWithEscape( const PbChar *at, const PbChar *end )
-{
-    return end - at >= 3 && at[ 0 ] == '%' && Is( at[ 1 ], ClassHex ) && Is( at[ 2 ], ClassHex );
 }
 
 } // namespace iri

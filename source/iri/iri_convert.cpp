@@ -26,11 +26,7 @@ struct Output
     {
         PbByte        bytes[ 4 ];
         const int64_t count = pbCharsConvertToUtf8( bytes, 4, &ch, 1, true );
-        for( int64_t n = 0; n < count; ++n ) {
-            Put( '%' );
-            Put( "0123456789ABCDEF"[ bytes[ n ] >> 4 ] );
-            Put( "0123456789ABCDEF"[ bytes[ n ] & 15 ] );
-        }
+        for( int64_t n = 0; n < count; ++n ) pb::PutEscaped( bytes[ n ], [ this ]( PbChar put ) { Put( put ); } );
     }
 };
 
@@ -47,33 +43,22 @@ bool MayStandUnescaped( PbChar ch, bool inQuery )
     return !IsBidiFormatting( ch ) && ( iri::IsUcsChar( ch ) || ( inQuery && iri::IsPrivateChar( ch ) ) );
 }
 
-// The byte of the escape at `at`, or -1.
-int EscapedByte( const PbChar *at, const PbChar *end )
+// The character beyond ASCII that the escapes at the start of a text are the UTF-8 of; -1 when they are none. `length`
+// is that of the escapes.
+PbChar ReadEscapedChar( pb::Text text, int64_t &length )
 {
-    return iri::StartsWithEscape( at, end ) ? iri::HexValue( at[ 1 ] ) * 16 + iri::HexValue( at[ 2 ] ) : -1;
-}
-
-struct EscapedChar
-{
-    PbChar  ch    = -1; // -1: the escapes are no UTF-8 sequence of two bytes or more
-    int64_t count = 0;  // of escapes
-};
-
-EscapedChar ReadEscapedChar( const PbChar *at, const PbChar *end )
-{
-    static constexpr PbChar lowest[] = { 0, 0, 0x80, 0x800, 0x10000 }; // less is an overlong form
-
-    const int lead  = EscapedByte( at, end );
-    const int count = lead >= 0xF8 ? 0 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
-    if( count == 0 ) return {};
-
-    PbChar ch = lead & ( 0x7F >> count );
-    for( int n = 1; n < count; ++n ) {
-        const int byte = EscapedByte( at + 3 * n, end );
-        if( byte < 0x80 || byte > 0xBF ) return {};
-        ch = ch << 6 | ( byte & 0x3F );
+    PbByte  bytes[ 4 ];
+    int64_t count = 0;
+    for( ; count < 4; ++count ) {
+        const int byte = pb::EscapedByte( text.From( 3 * count ) );
+        if( byte < 0x80 ) break;
+        bytes[ count ] = PbByte( byte );
     }
-    return ch < lowest[ count ] ? EscapedChar{} : EscapedChar{ ch, count };
+    if( count == 0 ) return -1;
+
+    PbChar ch;
+    length = 3 * pb::DecodeUtf8Sequence( ch, bytes, count );
+    return ch;
 }
 
 // Puts a valid IRI with its escapes turned into characters where an IRI may hold these; whether anything changed. No
@@ -86,10 +71,11 @@ bool Unescape( const PbChar *at, const PbChar *end, Output &output )
     while( at != end ) {
         const PbChar ch = *at;
         if( ch == '%' ) {
-            const EscapedChar escaped = ReadEscapedChar( at, end );
-            if( MayStandUnescaped( escaped.ch, query < at && at < fragment ) ) {
-                output.Put( escaped.ch );
-                at += 3 * escaped.count;
+            int64_t      length  = 0;
+            const PbChar escaped = ReadEscapedChar( { at, end - at }, length );
+            if( MayStandUnescaped( escaped, query < at && at < fragment ) ) {
+                output.Put( escaped );
+                at += length;
                 changed = true;
                 continue;
             }

@@ -4,160 +4,154 @@
 #include "iri_chars.h"
 #include "pb/pb_frame.h"
 
-#include <algorithm>
-
 namespace {
 
-bool StartsWith( const PbChar *at, const PbChar *end, PbChar ch ) { return at != end && *at == ch; }
+using pb::Text, pb::Walk;
 
-// The end of the run of characters of one ASCII class from `at`.
-const PbChar *SkipAscii( const PbChar *at, const PbChar *end, uint16_t mask )
+// A run of characters of one ASCII class.
+template< uint16_t mask > int64_t SkipAscii( Text text )
 {
-    return at + pb::CountRun< true >( iri::classes, mask, at, end - at );
+    return pb::CountRun< true >( iri::classes, mask, text.chs, text.length );
 }
 
 // The same with percent escapes and ucschar; `privateToo` adds iprivate.
-template< uint16_t mask, bool privateToo = false > const PbChar *SkipRun( const PbChar *at, const PbChar *end )
+template< uint16_t mask, bool privateToo = false > int64_t SkipRun( Text text )
 {
-    for( ;; ) {
-        at = SkipAscii( at, end, mask );
-        if( at == end ) return at;
-        if( *at == '%' ) {
-            if( !iri::StartsWithEscape( at, end ) ) return at;
-            at += 3;
+    for( int64_t n = 0;; ) {
+        n += SkipAscii< mask >( text.From( n ) );
+        if( n == text.length ) return n;
+        if( text[ n ] == '%' ) {
+            if( pb::EscapedByte( text.From( n ) ) < 0 ) return n;
+            n += 3;
         } else {
-            if( !iri::IsUcsChar( *at ) && !( privateToo && iri::IsPrivateChar( *at ) ) ) return at;
-            ++at;
+            if( !iri::IsUcsChar( text[ n ] ) && !( privateToo && iri::IsPrivateChar( text[ n ] ) ) ) return n;
+            ++n;
         }
     }
-}
-
-// "[" and an IPv6 address or one of a later version, and "]".
-const PbChar *SkipIpLiteral( const PbChar *at, const PbChar *end )
-{
-    if( !StartsWith( at, end, '[' ) ) return at;
-
-    const PbChar *inner = at + 1;
-    if( inner != end && ( *inner | 0x20 ) == 'v' ) {
-        const PbChar *version = SkipAscii( inner + 1, end, iri::ClassHex );
-        if( version == inner + 1 || !StartsWith( version, end, '.' ) ) return at;
-        inner = SkipAscii( version + 1, end, iri::ClassUserInfo );
-        if( inner == version + 1 ) return at;
-    } else {
-        const int64_t count = iri___SkipIpV6Address( inner, end - inner );
-        if( count == 0 ) return at;
-        inner += count;
-    }
-    return StartsWith( inner, end, ']' ) ? inner + 1 : at;
-}
-
-// iauthority, which may be empty. Userinfo is known by its "@" alone; without one, what looked like it is host and
-// port.
-const PbChar *SkipAuthority( const PbChar *at, const PbChar *end )
-{
-    const PbChar *userInfo = SkipRun< iri::ClassUserInfo >( at, end );
-    if( StartsWith( userInfo, end, '@' ) ) at = userInfo + 1;
-
-    at = StartsWith( at, end, '[' ) ? SkipIpLiteral( at, end ) : SkipRun< iri::ClassRegName >( at, end );
-    return StartsWith( at, end, ':' ) ? SkipAscii( at + 1, end, iri::ClassDigit ) : at;
 }
 
 // dec-octet: 0 to 255 in as many digits as fit, without a leading zero.
-const PbChar *SkipOctet( const PbChar *at, const PbChar *end )
+int64_t SkipOctet( Text text )
 {
-    const PbChar *start = at;
-    for( int value = 0; at != end && iri::Is( *at, iri::ClassDigit ); ++at ) {
-        value = value * 10 + ( *at - '0' );
-        if( value > 255 || ( at != start && *start == '0' ) ) break;
+    int64_t n = 0;
+    for( int value = 0; n < text.length && iri::Is( text[ n ], iri::ClassDigit ); ++n ) {
+        value = value * 10 + ( text[ n ] - '0' );
+        if( value > 255 || ( n > 0 && text[ 0 ] == '0' ) ) break;
     }
-    return at;
+    return n;
 }
 
-} // namespace
-
-int64_t iri___SkipIri( const PbChar *chs, int64_t length )
+int64_t SkipIpV4( Text text )
 {
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    const PbChar *end = chs + length;
-    if( length == 0 || !iri::Is( *chs, iri::ClassAlpha ) ) return 0;
-
-    const PbChar *at = SkipAscii( chs, end, iri::ClassScheme );
-    if( !StartsWith( at, end, ':' ) ) return 0;
-    ++at;
-
-    // After an authority a path starts with "/"; without one it must not start with "//".
-    bool hasPath = true;
-    if( StartsWith( at, end, '/' ) && StartsWith( at + 1, end, '/' ) ) {
-        at      = SkipAuthority( at + 2, end );
-        hasPath = StartsWith( at, end, '/' );
+    int64_t n = 0;
+    for( int octets = 1;; ++octets ) {
+        const int64_t digits = SkipOctet( text.From( n ) );
+        if( digits == 0 ) return 0;
+        n += digits;
+        if( octets == 4 ) return n;
+        if( !text.Has( n, '.' ) ) return 0;
+        ++n;
     }
-    if( hasPath ) at = SkipRun< iri::ClassPath >( at, end );
-    if( StartsWith( at, end, '?' ) ) at = SkipRun< iri::ClassQuery, true >( at + 1, end );
-    if( StartsWith( at, end, '#' ) ) at = SkipRun< iri::ClassFragment >( at + 1, end );
-    return at - chs;
-}
-
-int64_t iri___SkipIpV4Address( const PbChar *chs, int64_t length )
-{
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    const PbChar *at  = chs;
-    const PbChar *end = chs + length;
-    for( int octet = 0; octet < 4; ++octet ) {
-        if( octet > 0 ) {
-            if( !StartsWith( at, end, '.' ) ) return 0;
-            ++at;
-        }
-        const PbChar *start = at;
-        at                  = SkipOctet( at, end );
-        if( at == start ) return 0;
-    }
-    return at - chs;
 }
 
 // An address is eight groups, or at most seven of them with "::" in place of the others.
-int64_t iri___SkipIpV6Address( const PbChar *chs, int64_t length )
+int64_t SkipIpV6( Text text )
 {
-    PB_ASSERT( length >= 0 );
-    PB_ASSERT( chs || length == 0 );
-
-    const PbChar *at      = chs;
-    const PbChar *end     = chs + length;
-    const PbChar *matched = chs; // the end of the longest prefix that is an address
-    int           groups  = 0;
-    int           limit   = 8;
+    int64_t n       = 0;
+    int64_t matched = 0; // the length of the longest prefix that is an address
+    int     groups  = 0;
+    int     limit   = 8;
 
     const auto elide = [ & ] {
-        if( limit == 7 || !StartsWith( at, end, ':' ) || !StartsWith( at + 1, end, ':' ) ) return false;
+        if( limit == 7 || !text.Has( n, ':' ) || !text.Has( n + 1, ':' ) ) return false;
         limit   = 7;
-        matched = at += 2;
+        matched = n += 2;
         return true;
     };
 
     elide();
     while( groups < limit ) {
-        const PbChar *group = at;
-        at                  = SkipAscii( group, group + std::min< int64_t >( 4, end - group ), iri::ClassHex );
-        if( at == group ) break;
+        const Text    rest   = text.From( n );
+        const int64_t digits = SkipAscii< iri::ClassHex >( rest.First( 4 ) );
+        if( digits == 0 ) break;
 
-        if( StartsWith( at, end, '.' ) && ( limit == 7 ? groups <= 5 : groups == 6 ) )
-            if( const int64_t count = iri___SkipIpV4Address( group, end - group ) ) return group + count - chs;
+        if( rest.Has( digits, '.' ) && ( limit == 7 ? groups <= 5 : groups == 6 ) )
+            if( const int64_t count = SkipIpV4( rest ) ) return n + count;
 
+        n += digits;
         ++groups;
-        if( limit == 7 || groups == 8 ) matched = at;
+        if( limit == 7 || groups == 8 ) matched = n;
         if( groups == 8 || elide() ) continue;
-        if( !StartsWith( at, end, ':' ) ) break;
-        ++at;
+        if( !text.Has( n, ':' ) ) break;
+        ++n;
     }
-    return matched - chs;
+    return matched;
 }
 
-int64_t iri___SkipPort( const PbChar *chs, int64_t length )
+// "v", a version, "." and the address: one of a version that is still to come.
+int64_t SkipIpFuture( Text text )
+{
+    if( !pb::StartsWithKeyword( text, "v" ) ) return 0;
+    Walk       walk{ text.From( 1 ) };
+    const bool whole =
+        walk.Take( SkipAscii< iri::ClassHex > ) && walk.TakeChar( '.' ) && walk.Take( SkipAscii< iri::ClassUserInfo > );
+    return whole ? 1 + walk.Count() : 0;
+}
+
+int64_t SkipIpLiteral( Text text )
+{
+    Walk       walk{ text };
+    const bool whole =
+        walk.TakeChar( '[' ) && ( walk.Take( SkipIpFuture ) || walk.Take( SkipIpV6 ) ) && walk.TakeChar( ']' );
+    return whole ? walk.Count() : 0;
+}
+
+// iauthority, which may be empty. Userinfo is known by its "@" alone; without one, what looked like it is host and
+// port.
+int64_t SkipAuthority( Text text )
+{
+    int64_t begin = 0;
+    int64_t end   = SkipRun< iri::ClassRegName >( text );
+    if( const int64_t userInfo = end + SkipRun< iri::ClassUserInfo >( text.From( end ) ); text.Has( userInfo, '@' ) ) {
+        begin = userInfo + 1;
+        end   = begin + SkipRun< iri::ClassRegName >( text.From( begin ) );
+    }
+    if( end == begin ) end += SkipIpLiteral( text.From( begin ) );
+    return text.Has( end, ':' ) ? end + 1 + SkipAscii< iri::ClassDigit >( text.From( end + 1 ) ) : end;
+}
+
+int64_t SkipIri( Text text )
+{
+    if( text.length == 0 || !iri::Is( text[ 0 ], iri::ClassAlpha ) ) return 0;
+    int64_t n = SkipAscii< iri::ClassScheme >( text );
+    if( !text.Has( n, ':' ) ) return 0;
+    ++n;
+
+    // After an authority a path starts with "/"; without one it must not start with "//".
+    bool hasPath = true;
+    if( text.Has( n, '/' ) && text.Has( n + 1, '/' ) ) {
+        n += 2 + SkipAuthority( text.From( n + 2 ) );
+        hasPath = text.Has( n, '/' );
+    }
+    if( hasPath ) n += SkipRun< iri::ClassPath >( text.From( n ) );
+    if( text.Has( n, '?' ) ) n += 1 + SkipRun< iri::ClassQuery, true >( text.From( n + 1 ) );
+    if( text.Has( n, '#' ) ) n += 1 + SkipRun< iri::ClassFragment >( text.From( n + 1 ) );
+    return n;
+}
+
+[[gnu::always_inline]] inline Text Checked( const PbChar *chs, int64_t length )
 {
     PB_ASSERT( length >= 0 );
     PB_ASSERT( chs || length == 0 );
-    return SkipAscii( chs, chs + length, iri::ClassDigit ) - chs;
+    return { chs, length };
+}
+
+} // namespace
+
+int64_t iri___SkipIri( const PbChar *chs, int64_t length ) { return SkipIri( Checked( chs, length ) ); }
+int64_t iri___SkipIpV4Address( const PbChar *chs, int64_t length ) { return SkipIpV4( Checked( chs, length ) ); }
+int64_t iri___SkipIpV6Address( const PbChar *chs, int64_t length ) { return SkipIpV6( Checked( chs, length ) ); }
+int64_t iri___SkipPort( const PbChar *chs, int64_t length )
+{
+    return SkipAscii< iri::ClassDigit >( Checked( chs, length ) );
 }

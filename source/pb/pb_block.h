@@ -63,7 +63,8 @@ inline void FreeBlock( void *block, uint32_t blockClass )
 {
     if( keptBlocks.room[ blockClass ] == 0 ) return FreeUnkeptBlock( block, blockClass );
     --keptBlocks.room[ blockClass ];
-    auto kept                      = static_cast< KeptBlock                      *>( block );
+    auto kept = static_cast< KeptBlock * >( block );
+
     kept->next                     = keptBlocks.first[ blockClass ];
     keptBlocks.first[ blockClass ] = kept;
 }
@@ -77,7 +78,8 @@ inline void  FreeBlock( void *block, uint32_t ) { pbMemFree( block ); }
 
 inline PbObj *InitObject( void *block, PbSort *sort, uint32_t blockClass )
 {
-    auto obj        = static_cast< PbObj        *>( block );
+    auto obj = static_cast< PbObj * >( block );
+
     obj->sort       = sort;
     obj->count      = 1;
     obj->blockClass = blockClass;

@@ -2,6 +2,7 @@
 #include "pb_buffer.h"
 
 #include "pb_internal.h"
+#include "pb_text.h"
 
 #include <algorithm>
 #include <cstring>
@@ -38,8 +39,8 @@ constexpr int64_t firstCapacity = 64;
 PbBuffer *Create( int64_t capacity )
 {
     PB_ASSERT( capacity <= maxLength );
-    PbObj *obj       = pb___ObjCreate( headerSize + capacity, &pb___sort_PB_BUFFER );
-    auto  *buffer    = reinterpret_cast< PbBuffer  *>( obj );
+    auto buffer = reinterpret_cast< PbBuffer * >( pb___ObjCreate( headerSize + capacity, &pb___sort_PB_BUFFER ) );
+
     buffer->start    = 0;
     buffer->length   = 0;
     buffer->capacity = capacity;
@@ -126,8 +127,8 @@ static PbString *MakeText( PbBuffer *buffer )
     PbChar   *next = text->chs;
     for( int64_t i = 0; i < buffer->length; ++i ) {
         const PbByte byte = buffer->Bytes()[ i ];
-        *next++           = "0123456789abcdef"[ byte >> 4 ];
-        *next++           = "0123456789abcdef"[ byte & 15 ];
+        *next++           = pb::lowerDigits[ byte >> 4 ];
+        *next++           = pb::lowerDigits[ byte & 15 ];
     }
     return text;
 }

@@ -2,7 +2,7 @@
 #include "pb_charset.h"
 
 #include "pb_internal.h"
-#include "pb_utf8.h"
+#include "pb_text.h"
 
 #include <unicase.h>
 
@@ -44,7 +44,7 @@ int64_t pbCharsConvertToUtf8( PbByte *bytes, int64_t bytesLength, const PbChar *
 int64_t pb___UnicodeUpperCaseDbLookup( PbChar ch, PbChar mapping[ 3 ] )
 {
     PB_ASSERT( mapping );
-    mapping[ 0 ] = ch >= 'a' && ch <= 'z' ? ch - 'a' + 'A' : ch;
+    mapping[ 0 ] = pb::AsciiUpper( ch );
     if( ch < 0x80 || !PB_CHAR_OK( ch ) || ( ch >= 0xD800 && ch <= 0xDFFF ) ) return 1;
 
     // No character maps to more than three, so the library has no need of a buffer of its own.

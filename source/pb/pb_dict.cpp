@@ -43,7 +43,8 @@ constexpr int64_t BlockSize( int64_t capacity )
 
 PbDict *Create( int64_t capacity )
 {
-    auto *dict     = reinterpret_cast< PbDict     *>( pb___ObjCreate( BlockSize( capacity ), &pb___sort_PB_DICT ) );
+    auto dict = reinterpret_cast< PbDict * >( pb___ObjCreate( BlockSize( capacity ), &pb___sort_PB_DICT ) );
+
     dict->length   = 0;
     dict->capacity = capacity;
     dict->tree     = nullptr;

@@ -2,6 +2,7 @@
 #include "pb_format.h"
 
 #include "pb_frame.h"
+#include "pb_text.h"
 
 #include <algorithm>
 #include <cstring>
@@ -10,33 +11,22 @@
 
 namespace {
 
-constexpr int64_t maxWidth = 1'000'000; // of a conversion in a format
+constexpr uint64_t maxWidth = 1'000'000; // of a conversion in a format
 
 // ---- Integers as text ------------------------------------------------------------------------------
 
-// The digits of a number, which end at the end of a buffer that holds any 64-bit number in base 2.
 struct Digits
 {
-    PbChar  buffer[ 64 ];
-    PbChar *start = std::end( buffer );
+    PbChar  chs[ pb::maxDigits ];
+    int64_t length;
 
-    Digits( uint64_t number, int64_t base, bool upperCase )
+    explicit Digits( uint64_t number, int64_t base = 10, bool upperCase = false )
     {
-        const PbChar ten   = upperCase ? 'A' : 'a';
-        const auto   write = [ & ]( auto radix ) {
-            do {
-                const auto digit = static_cast< PbChar >( number % radix );
-                *--start         = digit < 10 ? '0' + digit : ten + ( digit - 10 );
-                number /= radix;
-            } while( number );
-        };
-        if( base == 10 )
-            write( std::integral_constant< uint64_t, 10 >{} ); // divides by multiplying
-        else
-            write( static_cast< uint64_t >( base ) );
+        const char *const digits = upperCase ? pb::upperDigits : pb::lowerDigits;
+        const PbChar     *end    = base == 10 ? pb::WriteNumber( chs, number, pb::Radix< 10 >{}, digits )
+                                              : pb::WriteNumber( chs, number, uint64_t( base ), digits );
+        length                   = end - chs;
     }
-
-    int64_t Length() const { return std::end( buffer ) - start; }
 };
 
 void AppendRepeated( PbString **string, PbChar ch, int64_t count )
@@ -50,12 +40,12 @@ void AppendInt( PbString **string, int64_t value, int64_t base, int64_t width, i
     const auto   magnitude = negative ? 0 - static_cast< uint64_t >( value ) : static_cast< uint64_t >( value );
     const Digits digits( magnitude, base, flags & PB_FORMAT_FLAG_UPPER_CASE );
 
-    const int64_t padding  = width - digits.Length() - negative;
+    const int64_t padding  = width - digits.length - negative;
     const bool    zeroPads = flags & PB_FORMAT_FLAG_ZERO_PAD;
     if( !zeroPads ) AppendRepeated( string, ' ', padding );
     if( negative ) pbStringAppendChar( string, '-' );
     if( zeroPads ) AppendRepeated( string, '0', padding );
-    pbStringAppendChars( string, digits.start, digits.Length() );
+    pbStringAppendChars( string, digits.chs, digits.length );
 }
 
 // ---- The engine ------------------------------------------------------------------------------------
@@ -71,14 +61,12 @@ struct Conversion
 };
 
 // Reads a decimal number, 0 when there is none.
-template< class Unit > int64_t ReadNumber( const Unit *&at, const Unit *end )
+template< class Unit > int64_t ReadDecimal( const Unit *&at, const Unit *end )
 {
-    int64_t number = 0;
-    for( ; at < end && *at >= '0' && *at <= '9'; ++at ) {
-        number = number * 10 + int64_t( *at - '0' );
-        PB_ASSERT( number <= maxWidth );
-    }
-    return number;
+    const auto [ number, length ] = pb::ReadNumber( at, end - at, pb::Radix< 10 >{}, maxWidth );
+    PB_ASSERT( number <= maxWidth );
+    at += length;
+    return int64_t( number );
 }
 
 template< class Unit > bool ReadFlag( Conversion &conversion, const Unit *&at )
@@ -99,9 +87,9 @@ template< class Unit > Conversion ReadConversion( const Unit *&at, const Unit *e
     Conversion conversion;
     while( at < end && ReadFlag( conversion, at ) ) {
     }
-    conversion.width = ReadNumber( at, end );
+    conversion.width = ReadDecimal( at, end );
     if( at < end && *at == '!' ) {
-        conversion.base = ReadNumber( ++at, end );
+        conversion.base = ReadDecimal( ++at, end );
         PB_ASSERT( conversion.base >= 2 && conversion.base <= 36 );
     }
     if( end - at >= 2 && at[ 0 ] == '.' && at[ 1 ] == '*' ) {
@@ -180,8 +168,8 @@ private:
         PB_ABORT_UNLESS( nullptr, "the conversion is known", conversion.starred );
         const int64_t highest = NextInt();
         PB_ASSERT( highest >= 0 );
-        const Digits digits( static_cast< uint64_t >( highest ), 10, false );
-        AppendInt( string_, NextInt(), 10, digits.Length(), PB_FORMAT_FLAG_ZERO_PAD );
+        const Digits digits( static_cast< uint64_t >( highest ) );
+        AppendInt( string_, NextInt(), 10, digits.length, PB_FORMAT_FLAG_ZERO_PAD );
     }
 
     int64_t NextInt() { return va_arg( arguments_, int64_t ); }
@@ -302,35 +290,16 @@ PbString *pbFormatEncodeInt( int64_t value, int64_t base, int64_t width, int64_t
 
 namespace {
 
-// The value of a digit in any radix; 36 for other characters.
-uint64_t DigitValue( PbChar ch )
-{
-    if( ch >= '0' && ch <= '9' ) return static_cast< uint64_t >( ch - '0' );
-    const PbChar lower = ch | 0x20;
-    return lower >= 'a' && lower <= 'z' ? static_cast< uint64_t >( lower - 'a' + 10 ) : 36;
-}
-
 bool ReadInt( const PbChar *chs, int64_t length, uint64_t radix, int64_t &value, int64_t &charsRead )
 {
     const bool     negative = length > 0 && chs[ 0 ] == '-';
     const uint64_t most     = static_cast< uint64_t >( INT64_MAX ) + negative;
-    const int64_t  start    = negative;
+    const auto read = [ & ]( auto base ) { return pb::ReadNumber( chs + negative, length - negative, base, most ); };
 
-    uint64_t magnitude = 0;
-    int64_t  at        = start;
-    if( radix == 10 ) // as many digits as fit whatever they are
-        for( const int64_t safe = std::min( length, start + 18 ); at < safe && chs[ at ] >= '0' && chs[ at ] <= '9';
-             ++at )
-            magnitude = magnitude * 10 + static_cast< uint64_t >( chs[ at ] - '0' );
-    for( ; at < length; ++at ) {
-        const uint64_t digit = DigitValue( chs[ at ] );
-        if( digit >= radix ) break;
-        if( magnitude > ( most - digit ) / radix ) return false;
-        magnitude = magnitude * radix + digit;
-    }
-    if( at == start || ( negative && magnitude == 0 ) ) return false;
-    value     = static_cast< int64_t >( negative ? 0 - magnitude : magnitude );
-    charsRead = at;
+    const pb::Number number = radix == 10 ? read( pb::Radix< 10 >{} ) : read( radix );
+    if( number.length == 0 || number.value > most || ( negative && number.value == 0 ) ) return false;
+    value     = static_cast< int64_t >( negative ? 0 - number.value : number.value );
+    charsRead = negative + number.length;
     return true;
 }
 

@@ -63,7 +63,8 @@ namespace pb {
 // Gives an object that nobody shares a block of another size, `count` items of `size` bytes; its address may change.
 template< class T > void Reallocate( T *&object, int64_t count, int64_t size )
 {
-    object                      = static_cast< T                      *>( pbMemReallocN( object, count, size ) );
+    object = static_cast< T * >( pbMemReallocN( object, count, size ) );
+
     AsObj( object )->blockClass = 0; // it is the C library's from now on
 }
 

@@ -4,7 +4,7 @@
 #include "pb_block.h"
 #include "pb_format.h"
 #include "pb_internal.h"
-#include "pb_utf8.h"
+#include "pb_text.h"
 
 #include <unicase.h>
 
@@ -364,8 +364,6 @@ namespace {
 
 using CaseMapper = decltype( &u32_tolower );
 
-bool IsAscii( PbChar ch ) { return static_cast< uint32_t >( ch ) < 0x80; }
-
 // What Unicode can map: the library turns other numbers into U+FFFD.
 bool IsScalar( PbChar ch ) { return PB_CHAR_OK( ch ) && ( ch < 0xD800 || ch > 0xDFFF ); }
 
@@ -394,21 +392,19 @@ void MapUnicodeCase( PbString *&string, CaseMapper mapper )
     if( !pbStringEquals( mapped.Get(), string ) ) pb::Release( std::exchange( string, mapped.Detach() ) );
 }
 
-// Moves the letters from `first` to `first` + 25 by `distance`, in place; text without one is not even copied. A single
-// character that is not ASCII leaves the whole text to `mapper`, since a mapping may depend on the neighbours.
-void MapCase( PbString *&string, PbChar first, PbChar distance, CaseMapper mapper )
+// Puts the letters from `first` on into the other case; text without one is not even copied. A single character that is
+// not ASCII leaves the whole text to `mapper`, since a mapping may depend on the neighbours.
+template< PbChar first > void MapCase( PbString *&string, CaseMapper mapper )
 {
-    const auto    moves = [ first ]( PbChar ch ) { return static_cast< uint32_t >( ch - first ) < 26; };
-    const auto    stays = [ moves ]( PbChar ch ) { return IsAscii( ch ) && !moves( ch ); };
-    const PbChar *end   = string->chs + string->length;
-    const PbChar *found = std::find_if_not( end - string->length, end, stays );
+    const auto          changes = []( PbChar ch ) { return !pb::IsAscii( ch ) || pb::IsLetterFrom( first, ch ); };
+    const PbChar *const end     = string->chs + string->length;
+    const PbChar *const found   = std::find_if( end - string->length, end, changes );
     if( found == end ) return;
-    if( !std::all_of( found, end, IsAscii ) ) return MapUnicodeCase( string, mapper );
+    if( !std::all_of( found, end, pb::IsAscii ) ) return MapUnicodeCase( string, mapper );
 
-    int64_t at = found - string->chs;
+    const int64_t at = found - string->chs;
     pb::MakeUnique( string );
-    for( ; at < string->length; ++at )
-        if( moves( string->chs[ at ] ) ) string->chs[ at ] += distance;
+    pb::CopyInOtherCase< first >( string->chs + at, string->chs + at, string->length - at );
 }
 
 } // namespace
@@ -416,13 +412,13 @@ void MapCase( PbString *&string, PbChar first, PbChar distance, CaseMapper mappe
 void pbStringToLower( PbString **string )
 {
     PB_ASSERT_SLOT( string );
-    MapCase( *string, 'A', 'a' - 'A', u32_tolower );
+    MapCase< 'A' >( *string, u32_tolower );
 }
 
 void pbStringToUpper( PbString **string )
 {
     PB_ASSERT_SLOT( string );
-    MapCase( *string, 'a', 'A' - 'a', u32_toupper );
+    MapCase< 'a' >( *string, u32_toupper );
 }
 
 // ---- Splitting -------------------------------------------------------------------------------------

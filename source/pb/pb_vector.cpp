@@ -29,15 +29,18 @@ PB_DEFINE_TYPE( PbVector, pbVector, pb___sort_PB_VECTOR, "PB_VECTOR", pb___modul
 
 namespace {
 
-constexpr int64_t itemSize      = sizeof( PbObj      *);
+constexpr int64_t itemSize = sizeof( PbObj * );
+
 constexpr int64_t headerItems   = sizeof( PbVector ) / itemSize; // the header, counted in items
 constexpr int64_t firstCapacity = 4;
 
 PbVector *Create( int64_t capacity )
 {
     PB_ASSERT( capacity <= INT64_MAX / itemSize - headerItems );
-    PbObj *obj       = pb___ObjCreate( ( headerItems + capacity ) * itemSize, &pb___sort_PB_VECTOR );
-    auto  *vector    = reinterpret_cast< PbVector  *>( obj );
+    const int64_t size = ( headerItems + capacity ) * itemSize;
+
+    auto vector = reinterpret_cast< PbVector * >( pb___ObjCreate( size, &pb___sort_PB_VECTOR ) );
+
     vector->length   = 0;
     vector->capacity = capacity;
     return vector;

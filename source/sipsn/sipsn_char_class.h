@@ -4,7 +4,7 @@
 //     while( n < length && sipsn::Is( chs[ n ], sipsn::Token ) ) ++n;
 #pragma once
 
-#include "pb/pb_scan.h"
+#include "pb/pb_text.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // UTF-8 to code points and back. Runs of ASCII, which is nearly all that SIP carries, are converted 16 characters at a
 // time, or 32 where the processor has AVX2.
-#include "pb_utf8.h"
+#include "pb_text.h"
 
 #include <algorithm>
 
@@ -19,13 +19,14 @@ namespace {
 
 const bool hasAvx2 = ( __builtin_cpu_init(), __builtin_cpu_supports( "avx2" ) );
 
-__m128i Load( const void *memory ) { return _mm_loadu_si128( static_cast< const __m128i * >( memory ) ); }
-void    Store( void *memory, __m128i block ) { _mm_storeu_si128( static_cast< __m128i    *>( memory ), block ); }
+__m128i Load( const PbChar *chs ) { return _mm_loadu_si128( reinterpret_cast< const __m128i * >( chs ) ); }
+
+void Store( PbChar *chs, __m128i four ) { _mm_storeu_si128( reinterpret_cast< __m128i * >( chs ), four ); }
 
 bool WidenBlock( PbChar *chs, const PbByte *bytes )
 {
     const __m128i zero  = _mm_setzero_si128();
-    const __m128i block = Load( bytes );
+    const __m128i block = Block::Load( bytes ).bytes;
     if( _mm_movemask_epi8( block ) ) return false;
     const __m128i low  = _mm_unpacklo_epi8( block, zero );
     const __m128i high = _mm_unpackhi_epi8( block, zero );
@@ -44,7 +45,7 @@ bool NarrowBlock( PbByte *bytes, const PbChar *chs )
     const __m128i high     = _mm_packs_epi32( Load( chs + 8 ), Load( chs + 12 ) );
     const __m128i other    = _mm_and_si128( _mm_or_si128( low, high ), notAscii );
     if( _mm_movemask_epi8( _mm_cmpeq_epi16( other, _mm_setzero_si128() ) ) != 0xFFFF ) return false;
-    Store( bytes, _mm_packus_epi16( low, high ) );
+    _mm_storeu_si128( reinterpret_cast< __m128i * >( bytes ), _mm_packus_epi16( low, high ) );
     return true;
 }
 
@@ -60,8 +61,6 @@ bool WidenHalf( PbChar *chs, const PbByte *bytes )
     return true;
 }
 
-__m256i *Wide( PbChar *chs ) { return reinterpret_cast< __m256i * >( chs ); }
-
 __attribute__( ( target( "avx2" ) ) ) __m256i WidenEight( const PbByte *bytes )
 {
     return _mm256_cvtepu8_epi32( _mm_loadl_epi64( reinterpret_cast< const __m128i * >( bytes ) ) );
@@ -73,8 +72,9 @@ __attribute__( ( target( "avx2" ) ) ) int64_t WidenWide( PbChar *chs, const PbBy
     const __m256i notAscii = _mm256_set1_epi8( static_cast< char >( 0x80 ) );
     int64_t       done     = 0;
     for( ; length - done >= 32; done += 32 ) {
+        const auto to = reinterpret_cast< __m256i * >( chs + done );
+
         const PbByte *from = bytes + done;
-        __m256i      *to   = Wide( chs + done );
         if( !_mm256_testz_si256( _mm256_loadu_si256( reinterpret_cast< const __m256i * >( from ) ), notAscii ) ) break;
         _mm256_storeu_si256( to, WidenEight( from ) );
         _mm256_storeu_si256( to + 1, WidenEight( from + 8 ) );
@@ -91,7 +91,8 @@ __attribute__( ( target( "avx2" ) ) ) int64_t NarrowWide( PbByte *bytes, const P
     const __m256i order = _mm256_setr_epi32( 0, 4, 1, 5, 2, 6, 3, 7 );
     int64_t       done  = 0;
     for( ; length - done >= 32; done += 32 ) {
-        const auto   *from = reinterpret_cast< const __m256i   *>( chs + done );
+        const auto from = reinterpret_cast< const __m256i * >( chs + done );
+
         const __m256i low  = _mm256_packs_epi32( _mm256_loadu_si256( from ), _mm256_loadu_si256( from + 1 ) );
         const __m256i high = _mm256_packs_epi32( _mm256_loadu_si256( from + 2 ), _mm256_loadu_si256( from + 3 ) );
         if( !_mm256_testz_si256( _mm256_or_si256( low, high ), notAscii ) ) break;
@@ -142,33 +143,8 @@ int64_t WidenAscii( PbChar *chs, const PbByte *bytes, int64_t length )
 int64_t NarrowAscii( PbByte *bytes, const PbChar *chs, int64_t length )
 {
     int64_t done = NarrowBlocks( bytes, chs, length );
-    for( ; done < length && static_cast< uint32_t >( chs[ done ] ) < 0x80; ++done )
-        bytes[ done ] = static_cast< PbByte >( chs[ done ] );
+    for( ; done < length && IsAscii( chs[ done ] ); ++done ) bytes[ done ] = static_cast< PbByte >( chs[ done ] );
     return done;
-}
-
-bool IsContinuation( PbByte byte ) { return ( byte & 0xC0 ) == 0x80; }
-
-// What a lead byte says about its sequence: how many bytes follow, and between which values the first of these must lie
-// to rule out overlong forms, surrogates and what is above 10FFFF (RFC 3629 section 4).
-struct Lead
-{
-    int64_t following; // 0: no lead byte
-    PbByte  low  = 0x80;
-    PbByte  high = 0xBF;
-};
-
-Lead LeadOf( PbByte byte )
-{
-    if( byte < 0xC2 ) return { 0 };
-    if( byte < 0xE0 ) return { 1 };
-    if( byte == 0xE0 ) return { 2, 0xA0, 0xBF };
-    if( byte == 0xED ) return { 2, 0x80, 0x9F };
-    if( byte < 0xF0 ) return { 2 };
-    if( byte == 0xF0 ) return { 3, 0x90, 0xBF };
-    if( byte < 0xF4 ) return { 3 };
-    if( byte == 0xF4 ) return { 3, 0x80, 0x8F };
-    return { 0 };
 }
 
 // Writes a character that is not ASCII to `sequence` and returns its length; 0 when UTF-8 cannot write it.
@@ -198,22 +174,6 @@ int64_t EncodeSequence( PbByte ( &sequence )[ 4 ], PbChar ch )
 
 } // namespace
 
-int64_t DecodeUtf8Sequence( PbChar &ch, const PbByte *bytes, int64_t length )
-{
-    ch = bytes[ 0 ];
-    if( ch < 0x80 ) return 1;
-
-    const Lead lead  = LeadOf( bytes[ 0 ] );
-    int64_t    taken = 1;
-    // 1F, 0F and 07 are the payloads of the lead bytes of sequences of 2, 3 and 4 bytes.
-    PbChar code = bytes[ 0 ] & ( 0x3F >> lead.following );
-    if( lead.following && length > 1 && bytes[ 1 ] >= lead.low && bytes[ 1 ] <= lead.high )
-        for( ; taken <= lead.following && taken < length && IsContinuation( bytes[ taken ] ); ++taken )
-            code = ( code << 6 ) | ( bytes[ taken ] & 0x3F );
-    ch = lead.following && taken == lead.following + 1 ? code : -1;
-    return taken;
-}
-
 int64_t DecodeUtf8( PbChar *chs, const PbByte *bytes, int64_t length, bool strict )
 {
     PbChar *const       start = chs;
@@ -241,12 +201,13 @@ int64_t EncodeUtf8( PbByte *bytes, int64_t bytesLength, const PbChar *chs, int64
     while( chs < end ) {
         // Once something did not fit, what follows is only measured.
         PbByte        scratch[ 256 ];
-        const int64_t room  = full ? int64_t( sizeof scratch ) : bytesLength - written;
-        const int64_t ascii = NarrowAscii( full ? scratch : bytes + written, chs, std::min( room, end - chs ) );
+        const int64_t room = full ? int64_t( sizeof scratch ) : bytesLength - written;
+        const int64_t ascii =
+            NarrowAscii( full ? scratch : bytes + written, chs, std::min< int64_t >( room, end - chs ) );
         chs += ascii;
         written += ascii;
         if( chs == end ) break;
-        if( static_cast< uint32_t >( *chs ) < 0x80 ) { // stopped by the room, not by the character
+        if( IsAscii( *chs ) ) { // stopped by the room, not by the character
             full = true;
             continue;
         }
