@@ -1,22 +1,24 @@
 // No production answers less than 0 or more than the length, looks past the end, or matches less of a text that it has
-// matched when that text stands alone. The validators say what the productions say. The first byte of the input picks
-// the production; the rest is the text.
+// matched when that text stands alone. Where the texts of a production are a family, the family's Ok says what the
+// production says. An addr-spec is the IRI before the first semicolon. All productions are tried on every input.
 #include "fuzz.h"
 
+#include "exports.h"
+#include "iri/iri_internal.h"
 #include "sipsn/sipsn_skip_internal.h"
 
-#include <iterator>
+#include <map>
+#include <set>
 
 namespace {
+
+using Skip = int64_t( const PbChar *chs, int64_t length );
+using Ok   = bool( PbString *string );
 
 template< auto production > int64_t WithColon( const PbChar *chs, int64_t length )
 {
     return production( chs, length, ':' );
 }
-constexpr auto SkipChar       = WithColon< sipsn___SkipChar >;
-constexpr auto SkipCharSws    = WithColon< sipsn___SkipCharSws >;
-constexpr auto SkipSwsChar    = WithColon< sipsn___SkipSwsChar >;
-constexpr auto SkipSwsCharSws = WithColon< sipsn___SkipSwsCharSws >;
 
 // Patterns are beginnings of the text, so that they match.
 template< auto production > int64_t WithPattern( const PbChar *chs, int64_t length )
@@ -25,8 +27,6 @@ template< auto production > int64_t WithPattern( const PbChar *chs, int64_t leng
     REQUIRE( length == 0 || production( chs, length - 1, chs, length ) == 0 );
     return production( chs, length, chs, length );
 }
-constexpr auto SkipChars              = WithPattern< sipsn___SkipChars >;
-constexpr auto SkipCharsAsciiCaseFold = WithPattern< sipsn___SkipCharsAsciiCaseFold >;
 
 template< auto production, int64_t lowest, int64_t highest > int64_t WithNumber( const PbChar *chs, int64_t length )
 {
@@ -36,150 +36,61 @@ template< auto production, int64_t lowest, int64_t highest > int64_t WithNumber(
     REQUIRE( count == 0 ? number == -1 : lowest <= number && number <= highest );
     return count;
 }
-constexpr auto SkipMonth = WithNumber< sipsn___SkipMonth, 1, 12 >;
-constexpr auto SkipWkday = WithNumber< sipsn___SkipWkday, 0, 6 >;
 
 struct Production
 {
-    int64_t ( *skip )( const PbChar *chs, int64_t length );
-    bool ( *ok )( PbString *string ) = nullptr; // where it is whether the production covers the text
+    Skip *skip;
+    Ok   *ok; // whether the production covers the text; or null
 };
 
-constexpr Production productions[] = {
-    { sipsn___SkipSws },
-    { sipsn___SkipLws },
-    { SkipChar },
-    { SkipCharSws },
-    { SkipSwsChar },
-    { SkipSwsCharSws },
-    { sipsn___SkipColon },
-    { sipsn___SkipHcolon },
-    { sipsn___SkipComma },
-    { sipsn___SkipEqual },
-    { sipsn___SkipSemi },
-    { sipsn___SkipSlash },
-    { sipsn___SkipStar },
-    { sipsn___SkipLparen },
-    { sipsn___SkipRparen },
-    { sipsn___SkipLaquot },
-    { sipsn___SkipRaquot },
-    { sipsn___SkipLdquot },
-    { sipsn___SkipRdquot },
-    { SkipChars },
-    { SkipCharsAsciiCaseFold },
-    { sipsn___SkipToken, sipsnTokenOk },
-    { sipsn___SkipTokenNodot, sipsnTokenNodotOk },
-    { sipsn___SkipAtom },
-    { sipsn___SkipDotAtom },
-    { sipsn___SkipWord },
-    { sipsn___SkipDigits },
-    { sipsn___SkipQuotedString },
-    { sipsn___SkipComment },
-    { sipsn___SkipBranch, sipsnBranchOk },
-    { sipsn___SkipContentCoding, sipsnContentCodingOk },
-    { sipsn___SkipDispositionType, sipsnDispositionTypeOk },
-    { sipsn___SkipEmParam, sipsnEmParamOk },
-    { sipsn___SkipEventReasonValue, sipsnEventReasonValueOk },
-    { sipsn___SkipHandling, sipsnHandlingOk },
-    { sipsn___SkipMessageHeaderName, sipsnMessageHeaderNameOk },
-    { sipsn___SkipMethod, sipsnMethodOk },
-    { sipsn___SkipOptionTag, sipsnOptionTagOk },
-    { sipsn___SkipPriorityValue, sipsnPriorityValueOk },
-    { sipsn___SkipPrivValue, sipsnPrivValueOk },
-    { sipsn___SkipProtocolName, sipsnProtocolNameOk },
-    { sipsn___SkipProtocolVersion, sipsnProtocolVersionOk },
-    { sipsn___SkipPseudonym },
-    { sipsn___SkipPurpose, sipsnPurposeOk },
-    { sipsn___SkipReasonProtocol, sipsnReasonProtocolOk },
-    { sipsn___SkipSubstateValue, sipsnSubstateValueOk },
-    { sipsn___SkipTag, sipsnTagOk },
-    { sipsn___SkipTransport, sipsnTransportOk },
-    { sipsn___SkipDeltaSeconds },
-    { sipsn___SkipReasonCause, sipsnReasonCauseOk },
-    { sipsn___SkipTtl },
-    { sipsn___SkipReasonText },
-    { sipsn___SkipWarnText },
-    { sipsn___SkipUser },
-    { sipsn___SkipPassword },
-    { sipsn___SkipUric },
-    { sipsn___SkipPvalue },
-    { sipsn___SkipEpid, sipsnEpidOk },
-    { sipsn___SkipSessUuid, sipsnSessUuidOk },
-    { sipsn___SkipIpV4Address },
-    { sipsn___SkipIpV6Address },
-    { sipsn___SkipIpV6Reference },
-    { sipsn___SkipPort },
-    { sipsn___SkipUri },
-    { sipsn___SkipDomainLabel },
-    { sipsn___SkipHostname },
-    { sipsn___SkipHost },
-    { sipsn___SkipHostPort },
-    { sipsn___SkipDisplayName },
-    { sipsn___SkipNameAddr },
-    { sipsn___SkipAddrSpec },
-    { sipsn___SkipGenericParam },
-    { sipsn___SkipGenericParams },
-    { sipsn___SkipQvalue },
-    { sipsn___SkipVersion },
-    { sipsn___SkipEventType, sipsnEventTypeOk },
-    { sipsn___SkipRvalue, sipsnRvalueOk },
-    { sipsn___SkipCallId, sipsnCallIdOk },
-    { sipsn___SkipSipCleanMsgId, sipsnSipCleanMsgIdOk },
-    { sipsn___SkipSipInstance, sipsnSipInstanceOk },
-    { sipsn___SkipMediaType, sipsnMediaTypeOk },
-    { sipsn___SkipMediaSubtype, sipsnMediaSubtypeOk },
-    { sipsn___SkipAccept },
-    { sipsn___SkipAcceptEncoding },
-    { sipsn___SkipContact },
-    { sipsn___SkipRoute },
-    { sipsn___SkipIdentityValue },
-    { sipsn___SkipAlertInfo },
-    { sipsn___SkipCallInfo },
-    { sipsn___SkipErrorInfo },
-    { sipsn___SkipDiversion },
-    { sipsn___SkipDiversionCounter },
-    { sipsn___SkipDiversionLimit },
-    { sipsn___SkipDiversionPrivacy, sipsnDiversionPrivacyOk },
-    { sipsn___SkipDiversionReason, sipsnDiversionReasonOk },
-    { sipsn___SkipDiversionScreen, sipsnDiversionScreenOk },
-    { sipsn___SkipHistoryInfo },
-    { sipsn___SkipHistoryInfoIndex, sipsnHistoryInfoIndexOk },
-    { sipsn___SkipReason },
-    { sipsn___SkipUuiValue },
-    { sipsn___SkipRefresher, sipsnRefresherOk },
-    { sipsn___SkipTimestampValue, sipsnTimestampValueOk },
-    { sipsn___SkipSubject },
-    { sipsn___SkipOrganization },
-    { sipsn___SkipServer, sipsnServerOk },
-    { sipsn___SkipUserAgent, sipsnUserAgentOk },
-    { sipsn___SkipServerVal },
-    { sipsn___SkipWarningValue },
-    { sipsn___SkipWarnCode },
-    { sipsn___SkipWarnAgent, sipsnWarnAgentOk },
-    { sipsn___SkipVia },
-    { sipsn___SkipViaParams },
-    { sipsn___SkipViaReceived },
-    { SkipMonth },
-    { SkipWkday },
-};
-static_assert( std::size( productions ) == 115 );
+std::vector< Production > AllProductions()
+{
+    const std::map< std::string, Skip * > withArgument{
+        { "Char", WithColon< sipsn___SkipChar > },
+        { "CharSws", WithColon< sipsn___SkipCharSws > },
+        { "SwsChar", WithColon< sipsn___SkipSwsChar > },
+        { "SwsCharSws", WithColon< sipsn___SkipSwsCharSws > },
+        { "Chars", WithPattern< sipsn___SkipChars > },
+        { "CharsAsciiCaseFold", WithPattern< sipsn___SkipCharsAsciiCaseFold > },
+        { "Month", WithNumber< sipsn___SkipMonth, 1, 12 > },
+        { "Wkday", WithNumber< sipsn___SkipWkday, 0, 6 > },
+    };
+    // Whose Ok is about a number, or about what the text stands for.
+    const std::set< std::string > otherOk{
+        "DeltaSeconds", "DisplayName", "DiversionCounter", "DiversionLimit", "Host",
+        "Organization", "Port",        "Qvalue",           "ReasonText",     "Subject",
+        "Ttl",          "WarnCode",    "WarnText" };
+
+    std::vector< Production > productions;
+    for( const std::string &name : ExportsBetween( "sipsn___Skip", "" ) ) {
+        const auto found = withArgument.find( name );
+        Skip      *skip  = found != withArgument.end() ? found->second : Exported< Skip >( "sipsn___Skip" + name );
+        REQUIRE( skip && skip( nullptr, 0 ) == 0 );
+        productions.push_back( { skip, otherOk.contains( name ) ? nullptr : Exported< Ok >( "sipsn" + name + "Ok" ) } );
+    }
+    REQUIRE( !productions.empty() );
+    return productions;
+}
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput( const uint8_t *data, size_t size )
 {
-    if( size == 0 ) return 0;
     fuzz::Start();
-    const Production &production = productions[ data[ 0 ] % std::size( productions ) ];
-    pb::Ref           string     = fuzz::String( data + 1, size - 1 );
-    const fuzz::Text  text{ string.Get() };
+    static const std::vector< Production > productions = AllProductions();
 
-    const int64_t count = production.skip( text.Chs(), text.Length() );
-    REQUIRE( 0 <= count && count <= text.Length() );
-    if( production.ok ) REQUIRE( production.ok( string.Get() ) == ( count > 0 && count == text.Length() ) );
+    pb::Ref          string = fuzz::String( data, size );
+    const fuzz::Text text{ string.Get() };
+    for( const auto &[ skip, ok ] : productions ) {
+        const int64_t count = skip( text.Chs(), text.Length() );
+        REQUIRE( 0 <= count && count <= text.Length() );
+        REQUIRE( !ok || ok( string.Get() ) == ( count > 0 && count == text.Length() ) );
 
-    pb::Ref          matched{ pbStringLeading( string.Get(), count ) };
-    const fuzz::Text alone{ matched.Get() };
-    REQUIRE( production.skip( alone.Chs(), count ) == count );
+        pb::Ref          matched{ pbStringLeading( string.Get(), count ) };
+        const fuzz::Text alone{ matched.Get() };
+        REQUIRE( skip( alone.Chs(), count ) == count );
+    }
+    const PbChar *const semicolon = std::find( text.Chs(), text.Chs() + text.Length(), ';' );
+    REQUIRE( sipsn___SkipAddrSpec( text.Chs(), text.Length() ) == iri___SkipIri( text.Chs(), semicolon - text.Chs() ) );
     return 0;
 }
