@@ -9,7 +9,7 @@ bool sipsn___CharIsAlphanum( PbChar ch ) { return sipsn::Is( ch, sipsn::Alphanum
 
 bool sipsn___CharIsHexdig( PbChar ch, int64_t *value )
 {
-    const int digit = sipsn::HexValue( ch );
+    const int digit = pb::HexValue( ch );
     if( value ) *value = digit;
     return digit >= 0;
 }

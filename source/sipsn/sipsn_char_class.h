@@ -80,14 +80,6 @@ inline constexpr pb::ClassTable< CharClass > charClasses = [] {
 
 constexpr bool Is( PbChar ch, CharClass mask ) { return pb::IsIn( charClasses, mask, ch ); }
 
-// The value of a hexadecimal digit in either case; -1 for what is none.
-inline int HexValue( PbChar ch )
-{
-    if( !Is( ch, Hexdig ) ) return -1;
-    return ch <= '9' ? ch - '0' : ( ch | 0x20 ) - 'a' + 10;
-}
-
-// "A" to "Z" as "a" to "z"; any other character as it is.
-constexpr PbChar AsciiLower( PbChar ch ) { return uint32_t( ch ) - 'A' < 26 ? ch + ( 'a' - 'A' ) : ch; }
+using pb::AsciiLower;
 
 } // namespace sipsn

@@ -5,12 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
-
-#if defined( __SSE2__ )
 #include <bit>
-#include <emmintrin.h>
-#endif
+#include <cstring>
 
 namespace sipsn {
 
@@ -54,7 +50,7 @@ static_assert( count < none );
 static constexpr auto lowerToken = [] {
     std::array< uint8_t, 256 > table{};
     for( int ch = 0; ch < 128; ++ch )
-        if( Is( ch, Token ) ) table[ size_t( ch ) ] = uint8_t( ch >= 'A' && ch <= 'Z' ? ch + 32 : ch );
+        if( Is( ch, Token ) ) table[ size_t( ch ) ] = uint8_t( AsciiLower( ch ) );
     return table;
 }();
 
@@ -139,54 +135,34 @@ template< class Ch > static HeaderNameToken Scan( const Ch *chs, int64_t length 
     return { at, -1 };
 }
 
-#if defined( __SSE2__ )
-
-static __m128i LowerBlock( __m128i text )
-{
-    const __m128i upper = _mm_and_si128( _mm_cmpgt_epi8( text, _mm_set1_epi8( 'A' - 1 ) ),
-                                         _mm_cmplt_epi8( text, _mm_set1_epi8( 'Z' + 1 ) ) );
-    return _mm_or_si128( text, _mm_and_si128( upper, _mm_set1_epi8( 0x20 ) ) );
-}
-
-static uint32_t EqualBytes( __m128i a, __m128i b ) { return uint32_t( _mm_movemask_epi8( _mm_cmpeq_epi8( a, b ) ) ); }
-
 // The same for how fields usually begin: a known name of at least two characters and a colon. The number is -1 for all
 // others.
 static HeaderNameToken ScanCommonName( const PbByte *bytes, int64_t length )
 {
     if( length < 16 ) return { 0, -1 };
-    const auto load = []( const uint8_t *from ) {
-        return _mm_loadu_si128( reinterpret_cast< const __m128i * >( from ) );
-    };
-    const __m128i colon  = _mm_set1_epi8( ':' );
-    const __m128i low    = load( bytes );
-    __m128i       high   = _mm_setzero_si128();
-    uint32_t      colons = EqualBytes( low, colon );
+    const pb::Block colon  = pb::Block::Of( ':' );
+    const pb::Block low    = pb::Block::Load( bytes );
+    pb::Block       high   = pb::Block::Of( 0 );
+    uint32_t        colons = low.Equal( colon );
     if( colons == 0 && length >= 32 ) { // few names are so long
-        high   = load( bytes + 16 );
-        colons = EqualBytes( high, colon ) << 16;
+        high   = pb::Block::Load( bytes + 16 );
+        colons = high.Equal( colon ) << 16;
     }
     const size_t size = size_t( std::countr_zero( colons ) ); // 32 when there is none
     if( size < 2 || size > 31 ) return { 0, -1 };
 
-    const uint32_t all      = ( uint32_t( 1 ) << size ) - 1;
-    const __m128i  lowerLow = LowerBlock( low );
+    const uint32_t  all      = ( uint32_t( 1 ) << size ) - 1;
+    const pb::Block lowerLow = low.Lower();
     for( size_t slot = FirstSlot( bytes, size ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
         const size_t at = slots[ slot ];
         if( names[ at ].size() != size ) continue;
         const uint8_t *name  = lowerNames[ at ].data();
-        uint32_t       equal = EqualBytes( lowerLow, load( name ) );
-        if( size > 16 ) equal |= EqualBytes( LowerBlock( high ), load( name + 16 ) ) << 16;
+        uint32_t       equal = lowerLow.Equal( pb::Block::Load( name ) );
+        if( size > 16 ) equal |= high.Lower().Equal( pb::Block::Load( name + 16 ) ) << 16;
         if( ( equal & all ) == all ) return { int64_t( size ), int64_t( at ) };
     }
     return { 0, -1 };
 }
-
-#else
-
-static HeaderNameToken ScanCommonName( const PbByte *, int64_t ) { return { 0, -1 }; }
-
-#endif
 
 HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length ) { return Scan( chs, length ); }
 HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length )
@@ -204,7 +180,7 @@ template< class Ch > static PbString *Capitalise( const Ch *chs, int64_t length 
     bool      wordBegin = true;
     for( int64_t at = 0; at < length; ++at ) {
         const uint8_t lower = Lower( chs[ at ] );
-        name->chs[ at ]     = wordBegin && lower >= 'a' && lower <= 'z' ? lower - 32 : lower;
+        name->chs[ at ]     = wordBegin ? pb::AsciiUpper( lower ) : lower;
         wordBegin           = lower == '-';
     }
     return name;

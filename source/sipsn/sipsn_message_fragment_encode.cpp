@@ -9,38 +9,53 @@
 #include "sipsn_token_internal.h"
 
 #include "iri/iri.h"
+#include "pb/pb_text.h"
 
 #include <cstring>
 #include <string_view>
 
-#if defined( __SSE2__ )
-#include <emmintrin.h>
-#endif
-
 namespace {
 
-// The parts of a start line that are not written as the fragment holds them.
-struct StartLineTexts
+// A number in as many digits as it needs, which for a status code are three.
+class NumberText
 {
-    pb::Ref< PbString > uri;
-    pb::Ref< PbString > reasonPhrase;
+public:
+    void Set( int64_t number )
+    {
+        length_ = size_t( pb::WriteNumber( digits_, uint64_t( number ), pb::Radix< 10 >{} ) - digits_ );
+    }
+    std::string_view View() const { return { digits_, length_ }; }
+
+private:
+    char   digits_[ pb::maxDigits ];
+    size_t length_ = 0;
 };
 
-StartLineTexts MakeStartLineTexts( SipsnMessageFragment *frag )
+// What is not written as the fragment holds it.
+struct MadeTexts
 {
-    StartLineTexts texts;
-    if( sipsnMessageFragmentIsRequest( frag ) )
-        texts.uri = pb::Ref{ iriTryConvertToUri( frag->requestIri ) };
-    else if( sipsnMessageFragmentIsResponse( frag ) )
-        texts.reasonPhrase = pb::Ref{ sipsn___ReasonPhraseEncode( frag->responseReasonPhrase ) };
-    return texts;
-}
+    pb::Ref< PbString > uri;
+    NumberText          statusCode;
+    pb::Ref< PbString > reasonPhrase;
+    NumberText          contentLength;
+
+    MadeTexts( SipsnMessageFragment *frag, int64_t bodyLength )
+    {
+        if( sipsnMessageFragmentIsRequest( frag ) ) {
+            uri = pb::Ref{ iriTryConvertToUri( frag->requestIri ) };
+        } else if( sipsnMessageFragmentIsResponse( frag ) ) {
+            statusCode.Set( frag->responseStatusCode );
+            reasonPhrase = pb::Ref{ sipsn___ReasonPhraseEncode( frag->responseReasonPhrase ) };
+        }
+        contentLength.Set( bodyLength );
+    }
+};
 
 // Hands the text of a message, piece by piece, to a visitor that takes a std::string_view or a PbString.
 template< class Visitor > class Pieces
 {
 public:
-    Pieces( SipsnMessageFragment *frag, const StartLineTexts &texts, Visitor &visit )
+    Pieces( SipsnMessageFragment *frag, const MadeTexts &texts, Visitor &visit )
         : frag_{ frag }, texts_{ texts }, visit_{ visit }
     {}
 
@@ -66,7 +81,7 @@ private:
         } else if( sipsnMessageFragmentIsResponse( frag_ ) ) {
             VisitVersion();
             visit_( " " );
-            VisitNumber( frag_->responseStatusCode );
+            visit_( texts_.statusCode.View() );
             visit_( " " );
             VisitText( texts_.reasonPhrase.Get() );
             visit_( "\r\n" );
@@ -103,23 +118,9 @@ private:
 
     void VisitContentLength()
     {
-        const int64_t contentLength = frag_->body ? pbBufferLength( frag_->body ) : 0;
-        PB_ASSERT( contentLength >= 0 );
         visit_( "Content-Length: " );
-        VisitNumber( contentLength );
+        visit_( texts_.contentLength.View() );
         visit_( "\r\n" );
-    }
-
-    // Status codes have three digits, lengths as many as they need.
-    void VisitNumber( int64_t number )
-    {
-        char  digits[ 20 ];
-        char *begin = std::end( digits );
-        do {
-            *--begin = char( '0' + number % 10 );
-            number /= 10;
-        } while( number > 0 );
-        visit_( std::string_view{ begin, size_t( std::end( digits ) - begin ) } );
     }
 
     // A text that is missing is one that could not be encoded, or a version that was never set.
@@ -130,7 +131,7 @@ private:
     }
 
     SipsnMessageFragment *frag_;
-    const StartLineTexts &texts_;
+    const MadeTexts      &texts_;
     Visitor              &visit_;
     SipsnMessageHeader   *contentLength_ = nullptr;
 };
@@ -155,7 +156,6 @@ struct Utf8Counter
     }
 };
 
-// Narrows characters and gathers their bits, so that one test at the end tells whether they were ASCII.
 class AsciiWriter
 {
 public:
@@ -166,74 +166,17 @@ public:
         std::memcpy( out_, text.data(), text.size() );
         out_ += text.size();
     }
-
     void operator()( PbString *text )
     {
-        Narrow( text->chs, text->length );
+        narrower_.Write( out_, text->chs, text->length );
         out_ += text->length;
     }
 
-#if defined( __SSE2__ )
-    bool AllAscii() const
-    {
-        const __m128i beyond = _mm_and_si128( bits_, _mm_set1_epi32( ~0x7F ) );
-        return _mm_movemask_epi8( _mm_cmpeq_epi8( beyond, _mm_setzero_si128() ) ) == 0xFFFF;
-    }
+    bool AllAscii() const { return narrower_.AllAscii(); }
 
 private:
-    // Blocks overlap at the end of the text, where that is shorter than a block. The bits are gathered in a local,
-    // because a store of bytes may change any member for all that the compiler knows.
-    void Narrow( const PbChar *chs, int64_t length )
-    {
-        PbByte *const out  = out_;
-        __m128i       bits = bits_;
-        const auto    load = [ & ]( int64_t at ) {
-            const __m128i four = _mm_loadu_si128( reinterpret_cast< const __m128i    *>( chs + at ) );
-            bits               = _mm_or_si128( bits, four );
-            return four;
-        };
-        const auto narrowEight = [ & ]( int64_t at ) {
-            const __m128i low   = load( at );
-            const __m128i words = _mm_packs_epi32( low, load( at + 4 ) );
-            _mm_storel_epi64( reinterpret_cast< __m128i * >( out + at ), _mm_packus_epi16( words, words ) );
-        };
-        const auto narrowFour = [ & ]( int64_t at ) {
-            const __m128i four  = load( at );
-            const __m128i words = _mm_packs_epi32( four, four );
-            const int     bytes = _mm_cvtsi128_si32( _mm_packus_epi16( words, words ) );
-            std::memcpy( out + at, &bytes, 4 );
-        };
-        if( length >= 8 ) {
-            for( int64_t at = 0; at < length - 8; at += 8 ) narrowEight( at );
-            narrowEight( length - 8 );
-        } else if( length >= 4 ) {
-            narrowFour( 0 );
-            narrowFour( length - 4 );
-        } else
-            for( int64_t at = 0; at < length; ++at ) {
-                bits      = _mm_or_si128( bits, _mm_cvtsi32_si128( chs[ at ] ) );
-                out[ at ] = PbByte( chs[ at ] );
-            }
-        bits_ = bits;
-    }
-
-    PbByte *out_;
-    __m128i bits_ = _mm_setzero_si128();
-#else
-    bool AllAscii() const { return uint32_t( bits_ ) < 0x80; }
-
-private:
-    void Narrow( const PbChar *chs, int64_t length )
-    {
-        for( int64_t at = 0; at < length; ++at ) {
-            bits_ |= chs[ at ];
-            out_[ at ] = PbByte( chs[ at ] );
-        }
-    }
-
-    PbByte *out_;
-    PbChar  bits_ = 0;
-#endif
+    PbByte      *out_;
+    pb::Narrower narrower_;
 };
 
 struct Utf8Writer
@@ -252,8 +195,7 @@ struct Utf8Writer
     }
 };
 
-template< class Visitor >
-Visitor VisitMessage( SipsnMessageFragment *frag, const StartLineTexts &texts, Visitor visitor )
+template< class Visitor > Visitor VisitMessage( SipsnMessageFragment *frag, const MadeTexts &texts, Visitor visitor )
 {
     Pieces< Visitor >{ frag, texts, visitor }.VisitAll();
     return visitor;
@@ -271,8 +213,8 @@ PbBuffer *sipsnMessageFragmentEncode( SipsnMessageFragment *frag )
 {
     PB_ASSERT( frag );
 
-    const StartLineTexts texts      = MakeStartLineTexts( frag );
-    const int64_t        bodyLength = frag->body ? pbBufferLength( frag->body ) : 0;
+    const int64_t   bodyLength = frag->body ? pbBufferLength( frag->body ) : 0;
+    const MadeTexts texts{ frag, bodyLength };
 
     PbByte       *bytes;
     const int64_t asciiLength = VisitMessage( frag, texts, CharCounter{} ).length;

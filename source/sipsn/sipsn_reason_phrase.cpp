@@ -19,13 +19,9 @@ PbString *sipsn___ReasonPhraseDecode( const PbChar *chs, int64_t length )
 
     return sipsn::StringOf( [ = ]( auto put ) {
         for( int64_t i = 0; i < length; ++i ) {
-            if( chs[ i ] == '%' && length - i > 2 && sipsn::Is( chs[ i + 1 ], sipsn::Hexdig ) &&
-                sipsn::Is( chs[ i + 2 ], sipsn::Hexdig ) ) {
-                put( sipsn::HexValue( chs[ i + 1 ] ) * 16 + sipsn::HexValue( chs[ i + 2 ] ) );
-                i += 2;
-            } else {
-                put( chs[ i ] );
-            }
+            const int byte = pb::EscapedByte( { chs + i, length - i } );
+            put( byte < 0 ? chs[ i ] : byte );
+            if( byte >= 0 ) i += 2;
         }
     } );
 }
@@ -37,13 +33,10 @@ PbString *sipsn___ReasonPhraseEncode( PbString *pbs )
     if( std::ranges::all_of( sipsn::Characters( pbs ), IsPlain ) ) return pb::Retain( pbs );
     return sipsn::StringOf( [ = ]( auto put ) {
         for( PbChar ch : sipsn::Characters( pbs ) ) {
-            if( IsPlain( ch ) ) {
+            if( IsPlain( ch ) )
                 put( ch );
-                continue;
-            }
-            put( '%' );
-            put( "0123456789ABCDEF"[ ch >> 4 & 15 ] );
-            put( "0123456789ABCDEF"[ ch & 15 ] );
+            else
+                pb::PutEscaped( PbByte( ch ), put );
         }
     } );
 }

@@ -15,45 +15,9 @@ namespace {
 
 using sipsn::CharClass;
 
-struct Text
-{
-    const PbChar *chs;
-    int64_t       length;
+using pb::Text, pb::Walk;
 
-    PbChar operator[]( int64_t n ) const { return chs[ n ]; }
-    Text   From( int64_t n ) const { return { chs + n, length - n }; }
-    Text   First( int64_t n ) const { return { chs, std::min( n, length ) }; }
-
-    bool Has( int64_t n, PbChar ch ) const { return n < length && chs[ n ] == ch; }
-    bool Is( int64_t n, CharClass mask ) const { return n < length && sipsn::Is( chs[ n ], mask ); }
-};
-
-// Walks over a sequence of productions. A step that does not match consumes nothing.
-class Walk
-{
-public:
-    explicit Walk( Text text ) : text_{ text } {}
-
-    // Inlined, so that the production is called directly and not through a pointer.
-    template< class Production > [[gnu::always_inline]] bool Take( Production production )
-    {
-        const int64_t count = production( text_.From( at_ ) );
-        at_ += count;
-        return count > 0;
-    }
-    bool TakeChar( PbChar ch )
-    {
-        if( !text_.Has( at_, ch ) ) return false;
-        ++at_;
-        return true;
-    }
-
-    int64_t Count() const { return at_; }
-
-private:
-    Text    text_;
-    int64_t at_ = 0;
-};
+bool Is( Text text, int64_t n, CharClass mask ) { return n < text.length && sipsn::Is( text[ n ], mask ); }
 
 // ---- Runs and single characters --------------------------------------------------------------------
 
@@ -73,7 +37,7 @@ template< CharClass mask > int64_t Find( Text text, int64_t n )
 int64_t SkipSws( Text text )
 {
     int64_t n = 0;
-    while( text.Is( n, sipsn::Lws ) ) ++n;
+    while( Is( text, n, sipsn::Lws ) ) ++n;
     return n;
 }
 
@@ -83,10 +47,7 @@ constexpr auto SkipAtom       = SkipRun< sipsn::Atom >;
 constexpr auto SkipWord       = SkipRun< sipsn::Word >;
 constexpr auto SkipDigits     = SkipRun< sipsn::Digit >;
 
-bool StartsWithEscape( Text text )
-{
-    return text.Has( 0, '%' ) && text.Is( 1, sipsn::Hexdig ) && text.Is( 2, sipsn::Hexdig );
-}
+bool StartsWithEscape( Text text ) { return pb::EscapedByte( text ) >= 0; }
 
 // A run of one class and of escapes.
 template< CharClass mask > int64_t SkipEscapedRun( Text text )
@@ -131,22 +92,10 @@ int64_t SkipLparen( Text text ) { return SkipSwsCharSws( text, '(' ); }
 int64_t SkipLaquot( Text text ) { return SkipSwsChar( text, '<' ); }
 int64_t SkipRaquot( Text text ) { return SkipCharSws( text, '>' ); }
 
-template< class Fold > int64_t SkipPattern( Text text, Text pattern, Fold fold )
-{
-    if( pattern.length > text.length ) return 0;
-    for( int64_t n = 0; n < pattern.length; ++n )
-        if( fold( text[ n ] ) != fold( pattern[ n ] ) ) return 0;
-    return pattern.length;
-}
-
-// A text of lower-case letters, in any case.
+// A text of ASCII in any letter case.
 int64_t SkipKeyword( Text text, std::string_view keyword )
 {
-    const int64_t length = int64_t( keyword.size() );
-    if( length > text.length ) return 0;
-    for( int64_t n = 0; n < length; ++n )
-        if( sipsn::AsciiLower( text[ n ] ) != keyword[ size_t( n ) ] ) return 0;
-    return length;
+    return pb::StartsWithKeyword( text, keyword ) ? int64_t( keyword.size() ) : 0;
 }
 
 // part *( "." part ), where a "." with no part after it is left.
@@ -252,7 +201,7 @@ int64_t SkipHostname( Text text )
     int64_t count  = 0; // up to the last letter, digit, escape or dot
     bool    within = false;
     for( int64_t n = 0;; ) {
-        if( text.Is( n, sipsn::Alphanum ) ) {
+        if( Is( text, n, sipsn::Alphanum ) ) {
             count  = ++n;
             within = true;
         } else if( within && text.Has( n, '.' ) && count == n ) {
@@ -610,14 +559,17 @@ int64_t sipsn___SkipLdquot( const PbChar *chs, int64_t length ) { return SkipSws
 int64_t sipsn___SkipRdquot( const PbChar *chs, int64_t length ) { return SkipCharSws( Checked( chs, length ), '"' ); }
 int64_t sipsn___SkipChars( const PbChar *chs, int64_t length, const PbChar *pattern, int64_t patternLength )
 {
-    const Text text = Checked( chs, length );
-    return SkipPattern( text, CheckedPattern( pattern, patternLength ), []( PbChar ch ) { return ch; } );
+    const Text text   = Checked( chs, length );
+    const Text wanted = CheckedPattern( pattern, patternLength );
+    const bool found  = wanted.length <= text.length && std::equal( pattern, pattern + patternLength, chs );
+    return found ? wanted.length : 0;
 }
 int64_t sipsn___SkipCharsAsciiCaseFold( const PbChar *chs, int64_t length, const PbChar *pattern,
                                         int64_t patternLength )
 {
-    const Text text = Checked( chs, length );
-    return SkipPattern( text, CheckedPattern( pattern, patternLength ), sipsn::AsciiLower );
+    const Text text   = Checked( chs, length );
+    const Text wanted = CheckedPattern( pattern, patternLength );
+    return pb::StartsWithKeyword( text, wanted.chs, wanted.length ) ? wanted.length : 0;
 }
 
 // ---- Tokens and the like ---------------------------------------------------------------------------

@@ -96,24 +96,18 @@ inline PbString *CollapseBlanks( PbString *string )
 
 // ---- Case ------------------------------------------------------------------------------------------
 
-// The text with the 26 letters from `first` on in the other case. `beyondAscii` maps what else a text may hold.
-template< uint32_t first, void ( *beyondAscii )( PbString ** ) > PbString *MapCase( const PbChar *chs, int64_t length )
+// The text with the letters from `first` on in the other case. `beyondAscii` maps what else a text may hold.
+template< PbChar first, void ( *beyondAscii )( PbString ** ) > PbString *MapCase( const PbChar *chs, int64_t length )
 {
     PbString *mapped = pb___StringCreateUninitialized( length );
-    uint32_t  bits   = 0;
-    for( int64_t i = 0; i < length; ++i ) {
-        const uint32_t ch = uint32_t( chs[ i ] );
-        bits |= ch;
-        mapped->chs[ i ] = PbChar( ch - first < 26 ? ch ^ 0x20 : ch );
-    }
-    if( bits > 127 ) beyondAscii( &mapped );
+    if( !pb::CopyInOtherCase< first >( mapped->chs, chs, length ) ) beyondAscii( &mapped );
     return mapped;
 }
 
 // The string itself when there is nothing to map.
-template< uint32_t first, void ( *beyondAscii )( PbString ** ) > PbString *MapCase( PbString *string )
+template< PbChar first, void ( *beyondAscii )( PbString ** ) > PbString *MapCase( PbString *string )
 {
-    const auto mappable = []( PbChar ch ) { return uint32_t( ch ) - first < 26 || uint32_t( ch ) > 127; };
+    const auto mappable = []( PbChar ch ) { return pb::IsLetterFrom( first, ch ) || !pb::IsAscii( ch ); };
     if( std::ranges::none_of( Characters( string ), mappable ) ) return pb::Retain( string );
     return MapCase< first, beyondAscii >( string->chs, string->length );
 }
@@ -137,16 +131,8 @@ inline PbString *ToUpper( PbString *string ) { return MapCase< 'a', pbStringToUp
 // The characters as one whole decimal integer of 0 to `highest`, or -1.
 inline int64_t DecodeInt( const PbChar *chs, int64_t length, int64_t highest )
 {
-    constexpr int64_t safeLength = 18; // so many digits fit
-
-    int64_t value     = 0;
-    int64_t charsRead = 0;
-    if( length <= safeLength )
-        for( ; charsRead < length && Is( chs[ charsRead ], Digit ); ++charsRead )
-            value = value * 10 + ( chs[ charsRead ] - '0' );
-    if( length > 0 && charsRead == length ) return value <= highest ? value : -1;
-    if( !pbFormatTryDecodeIntChars( chs, length, 10, &value, &charsRead ) ) return -1;
-    return charsRead == length && value >= 0 && value <= highest ? value : -1;
+    const auto [ value, digits ] = pb::ReadNumber( chs, length, pb::Radix< 10 >{}, uint64_t( highest ) );
+    return length > 0 && digits == length && value <= uint64_t( highest ) ? int64_t( value ) : -1;
 }
 
 // Reads digits as one decimal integer; -1 when there are none, or when they do not fit 64 bits.

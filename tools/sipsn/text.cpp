@@ -1,6 +1,8 @@
 // Text of the libraries as UTF-8, and in a form that a terminal shows and does not obey.
 #include "text.h"
 
+#include "pb/pb_text.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
@@ -46,14 +48,11 @@ struct Character
 // A single byte as -1 when the text does not begin with a well-formed character.
 Character FirstCharacter( std::string_view utf8 )
 {
-    const auto byteAt = [ & ]( size_t at ) { return at < utf8.size() ? PbByte( utf8[ at ] ) : PbByte( 0 ); };
-    const auto lead   = byteAt( 0 );
-    if( lead < 0x80 ) return { lead, 1 };
-    const size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    const auto bytes = reinterpret_cast< const PbByte * >( utf8.data() );
 
-    const Owned< PbString > text = TryString( utf8.substr( 0, size ) );
-    if( !text || pbStringLength( text.Get() ) != 1 ) return { -1, 1 };
-    return { pbStringCharAt( text.Get(), 0 ), size };
+    PbChar        ch;
+    const int64_t size = pb::DecodeUtf8Sequence( ch, bytes, int64_t( utf8.size() ) );
+    return ch < 0 ? Character{ -1, 1 } : Character{ ch, size_t( size ) };
 }
 
 std::string EscapeWith( std::string_view utf8, std::string ( *escape )( PbChar ch, PbByte byte ) )
