@@ -7,5 +7,5 @@
 bool sipsnIriOk( PbString *iri )
 {
     PB_ASSERT( iri );
-    return iriGensValidatePart( 0, iri );
+    return iriGensValidatePart( IRI_GENS_PART_IRI, iri );
 }

@@ -28,9 +28,12 @@ int64_t sipsn___WarnCodeDecode( const PbChar *chs, int64_t length )
     PB_ASSERT( length >= 0 );
     PB_ASSERT( chs || length == 0 );
 
-    int64_t result    = -1;
-    int64_t charsRead = 0;
-    PB_ASSERT( pbFormatTryDecodeIntChars( chs, length, 10, &result, &charsRead ) && charsRead == length );
+    int64_t    result    = -1;
+    int64_t    charsRead = 0;
+    const bool isInt     = pbFormatTryDecodeIntChars( chs, length, 10, &result, &charsRead );
+    PB_ABORT_UNLESS( nullptr,
+                     "pbFormatTryDecodeIntChars( chs, length, 10, &result, &charsRead ) && charsRead == length",
+                     isInt && charsRead == length );
     return result;
 }
 
