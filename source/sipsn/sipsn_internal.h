@@ -2,7 +2,6 @@
 #pragma once
 
 #include "pb/pb_internal.h"
-#include "sipsn_module.h"
 
 PB_BEGIN_DECLS
 
