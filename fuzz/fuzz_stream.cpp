@@ -1,4 +1,5 @@
-// A stream gives the same messages, and ends in the same state, in whatever pieces it is written. The first four bytes
+// A stream gives the same messages, and ends in the same state, in whatever pieces it is written; the reader reads the
+// same. The first four bytes
 // of the input say how long the pieces are; the rest is the stream.
 #include "fuzz.h"
 
@@ -33,6 +34,20 @@ Outcome Run( const uint8_t *data, size_t size, const uint8_t ( &pieces )[ 4 ], b
     return outcome;
 }
 
+pb::Ref< PbBuffer > ReadAll( const uint8_t *data, size_t size )
+{
+    pb::Ref           messages{ pbBufferCreate() };
+    pb::Ref           stream = fuzz::Buffer( data, size );
+    SipsnMessagePlace place{};
+    SipsnFault        fault;
+    while( pb::Ref message{ sipsnMessageTryDecodeNext( stream.Get(), SIPSN_FRAMING_STREAM, &place, &fault ) } ) {
+        REQUIRE( sipsnMessageHasBody( message.Get() ) );
+        pb::Ref encoded{ sipsnMessageEncode( message.Get() ) };
+        pbBufferAppend( messages.Slot(), encoded.Get() );
+    }
+    return messages;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput( const uint8_t *data, size_t size )
@@ -45,6 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput( const uint8_t *data, size_t size )
     const Outcome whole = Run( data + sizeof( pieces ), size - sizeof( pieces ), pieces, true );
     const Outcome split = Run( data + sizeof( pieces ), size - sizeof( pieces ), pieces, false );
     REQUIRE( pbBufferEquals( whole.messages.Get(), split.messages.Get() ) );
+    REQUIRE( pbBufferEquals( whole.messages.Get(), ReadAll( data + 4, size - 4 ).Get() ) );
     REQUIRE( whole.error == split.error );
     REQUIRE( whole.left == split.left );
     return 0;

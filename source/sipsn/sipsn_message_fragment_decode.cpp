@@ -14,7 +14,6 @@
 #include "iri/iri.h"
 
 #include <bit>
-#include <cstring>
 
 #if defined( __SSE2__ )
 #include <emmintrin.h>
@@ -22,69 +21,6 @@
 
 namespace sipsn {
 
-namespace {
-
-// A run of bytes in the buffer.
-struct Bytes
-{
-    const PbByte *data   = nullptr;
-    int64_t       length = 0;
-
-    bool   Empty() const { return length == 0; }
-    PbByte Front() const { return data[ 0 ]; }
-    Bytes  From( int64_t index ) const { return { data + index, length - index }; }
-    Bytes  First( int64_t count ) const { return { data, count }; }
-};
-
-bool IsBlank( PbByte byte ) { return byte == ' ' || byte == '\t'; }
-
-inline Bytes SkipBlanks( Bytes text )
-{
-    while( !text.Empty() && IsBlank( text.Front() ) ) text = text.From( 1 );
-    return text;
-}
-
-inline Bytes Trim( Bytes text )
-{
-    text = SkipBlanks( text );
-    while( !text.Empty() && IsBlank( text.data[ text.length - 1 ] ) ) --text.length;
-    return text;
-}
-
-int64_t Find( Bytes text, char wanted )
-{
-    const void *found = text.Empty() ? nullptr : std::memchr( text.data, wanted, size_t( text.length ) );
-    return found ? static_cast< const PbByte * >( found ) - text.data : -1;
-}
-
-// How many bytes stand before the first CR or LF.
-int64_t FindLineEnd( Bytes text )
-{
-    int64_t at = 0;
-#if defined( __SSE2__ )
-    const __m128i cr = _mm_set1_epi8( '\r' );
-    const __m128i lf = _mm_set1_epi8( '\n' );
-    for( ; at + 16 <= text.length; at += 16 ) {
-        const __m128i block = _mm_loadu_si128( reinterpret_cast< const __m128i * >( text.data + at ) );
-        const int found = _mm_movemask_epi8( _mm_or_si128( _mm_cmpeq_epi8( block, cr ), _mm_cmpeq_epi8( block, lf ) ) );
-        if( found ) return at + __builtin_ctz( unsigned( found ) );
-    }
-#endif
-    while( at < text.length && text.data[ at ] != '\r' && text.data[ at ] != '\n' ) ++at;
-    return at;
-}
-
-// Takes one line off the front, with its line end: CR LF, a lone CR or a lone LF.
-Bytes TakeLine( Bytes &text )
-{
-    const int64_t length = FindLineEnd( text );
-    const Bytes   line   = text.First( length );
-    text                 = text.From( length );
-    if( !text.Empty() ) text = text.From( text.length > 1 && text.data[ 0 ] == '\r' && text.data[ 1 ] == '\n' ? 2 : 1 );
-    return line;
-}
-
-// The number that digits make; -1 when they are none, or make one above 999.
 int64_t ReadStatusCode( Bytes digits )
 {
     int64_t code = digits.Empty() ? -1 : 0;
@@ -103,6 +39,8 @@ SipsnVersion *TryDecodeVersion( Bytes text )
     pb::Ref string{ pb___StringTryCreateFromUtf8( text.data, text.length ) };
     return string ? sipsn___VersionTryDecode( string->chs, string->length ) : nullptr;
 }
+
+namespace {
 
 enum class StartLine
 {
@@ -223,7 +161,7 @@ private:
     PbDict              **headers_;
 };
 
-// One logical line, trimmed and not empty. Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
+// Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
 bool TryDecodeField( DecodedHeaders &headers, Bytes field )
 {
     const HeaderNameToken name = ScanHeaderName( field.data, field.length );
@@ -241,53 +179,19 @@ bool TryDecodeField( DecodedHeaders &headers, Bytes field )
     return true;
 }
 
-// The field that is being gathered. Its bytes are those of its line as long as it has only one; a continuation line
-// makes it a copy, joined by one space whatever blanks stood there.
-class PendingField
+// Notes what is refused, unless something before it was refused already; false.
+bool Refuse( Refusal *refusal, Refusal::Part part, Bytes where )
 {
-public:
-    bool  Empty() const { return line_.Empty(); }
-    Bytes Text() const
-    {
-        return joined_ ? Bytes{ pbBufferBacking( joined_.Get() ), pbBufferLength( joined_.Get() ) } : line_;
-    }
+    if( refusal && refusal->part == Refusal::nothing ) *refusal = { part, where };
+    return false;
+}
 
-    void Start( Bytes line )
-    {
-        line_   = line;
-        joined_ = {};
-    }
-
-    void Continue( Bytes line )
-    {
-        if( !joined_ ) joined_ = pb::Ref{ pbBufferCreateFromBytesCopy( line_.data, line_.length ) };
-        pbBufferAppendBytes( joined_.Slot(), " ", 1 );
-        pbBufferAppendBytes( joined_.Slot(), line.data, line.length );
-    }
-
-private:
-    Bytes               line_;
-    pb::Ref< PbBuffer > joined_;
-};
-
-// A line that does not begin with a blank ends the field before it; so does an empty line.
-bool TryDecodeFields( DecodedHeaders &headers, Bytes text )
+bool TryDecodeFields( DecodedHeaders &headers, Bytes lines, Refusal *refusal )
 {
-    PendingField pending;
-    while( !text.Empty() ) {
-        const Bytes line = TakeLine( text );
-        if( !pending.Empty() && ( line.Empty() || !IsBlank( line.Front() ) ) ) {
-            if( !TryDecodeField( headers, pending.Text() ) ) return false;
-            pending.Start( {} );
-        }
-        const Bytes trimmed = Trim( line );
-        if( trimmed.Empty() ) continue;
-        if( pending.Empty() )
-            pending.Start( trimmed );
-        else
-            pending.Continue( trimmed );
-    }
-    return pending.Empty() || TryDecodeField( headers, pending.Text() );
+    FieldCutter field{ lines };
+    while( field.Next() )
+        if( !TryDecodeField( headers, field.Text() ) ) return Refuse( refusal, Refusal::field, field.Lines() );
+    return true;
 }
 
 // Sets the value of the last Content-Length, -1 when there is none; false when it is no non-negative integer.
@@ -325,22 +229,30 @@ int64_t FindHeaderEnd( const PbByte *bytes, int64_t length, int64_t position )
     return -1;
 }
 
-SipsnMessageFragment *TryDecodeHeaders( const PbByte *bytes, int64_t length, int64_t *contentLength )
+bool IsStartLine( Bytes line )
+{
+    pb::Ref frag{ sipsnMessageFragmentCreate() };
+    return TryDecodeStartLine( frag.Slot(), line ) == StartLine::read;
+}
+
+SipsnMessageFragment *TryDecodeHeaders( Bytes head, int64_t *contentLength, Refusal *refusal )
 {
     if( contentLength ) *contentLength = -1;
 
-    Bytes   text{ bytes, length };
-    Bytes   afterFirst = text;
-    pb::Ref frag{ sipsnMessageFragmentCreate() };
-    switch( TryDecodeStartLine( frag.Slot(), TakeLine( afterFirst ) ) ) {
-    case StartLine::malformed: return nullptr;
-    case StartLine::read: text = afterFirst; break;
-    case StartLine::none: break;
-    }
+    Bytes           lines = head;
+    const Bytes     first = TakeLine( lines );
+    pb::Ref         frag{ sipsnMessageFragmentCreate() };
+    const StartLine startLine = TryDecodeStartLine( frag.Slot(), first );
+    if( startLine != StartLine::read ) Refuse( refusal, Refusal::startLine, first );
+    if( startLine == StartLine::malformed ) return nullptr;
+
     DecodedHeaders headers{ frag.Get() };
-    if( !TryDecodeFields( headers, text ) ) return nullptr;
+    if( !TryDecodeFields( headers, startLine == StartLine::read ? lines : head, refusal ) ) return nullptr;
     headers.MoveToDict();
-    if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) return nullptr;
+    if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) {
+        Refuse( refusal, Refusal::contentLength, {} );
+        return nullptr;
+    }
     return frag.Detach();
 }
 
@@ -349,7 +261,7 @@ SipsnMessageFragment *TryDecodeHeaders( const PbByte *bytes, int64_t length, int
 SipsnMessageFragment *sipsnMessageFragmentTryDecodeHeaders( PbBuffer *buf, int64_t *contentLength )
 {
     PB_ASSERT( buf );
-    return sipsn::TryDecodeHeaders( pbBufferBacking( buf ), pbBufferLength( buf ), contentLength );
+    return sipsn::TryDecodeHeaders( { pbBufferBacking( buf ), pbBufferLength( buf ) }, contentLength, nullptr );
 }
 
 SipsnMessageFragment *sipsnMessageFragmentTryDecode( PbBuffer *buf )
@@ -362,7 +274,8 @@ SipsnMessageFragment *sipsnMessageFragmentTryDecode( PbBuffer *buf )
     const int64_t bodyBegin = headerEnd < 0 ? length : headerEnd + 4;
 
     int64_t contentLength;
-    pb::Ref frag{ sipsn::TryDecodeHeaders( bytes, headerEnd < 0 ? length : headerEnd + 2, &contentLength ) };
+    pb::Ref frag{
+        sipsn::TryDecodeHeaders( { bytes, headerEnd < 0 ? length : headerEnd + 2 }, &contentLength, nullptr ) };
     if( !frag ) return nullptr;
 
     const int64_t available  = length - bodyBegin;

@@ -4,6 +4,7 @@
 
 #include "sipsn_internal.h"
 #include "sipsn_message.h"
+#include "sipsn_message_lines.h"
 
 struct SipsnVersion
 {
@@ -91,8 +92,47 @@ namespace sipsn {
 // The place of the CR LF CR LF that ends a header block, searched from `position`; -1 when there is none.
 int64_t FindHeaderEnd( const PbByte *bytes, int64_t length, int64_t position );
 
-// Decodes a header block; see sipsnMessageFragmentTryDecodeHeaders.
-SipsnMessageFragment *TryDecodeHeaders( const PbByte *bytes, int64_t length, int64_t *contentLength );
+// What a header block was refused for: its first line, a field with all of its lines, or the value of the last
+// Content-Length. A block without a start line decodes all the same; its first line is noted here, too.
+struct Refusal
+{
+    enum Part
+    {
+        nothing,
+        startLine,
+        field,
+        contentLength
+    };
+
+    Part  part = nothing;
+    Bytes where; // not for contentLength
+};
+
+// Decodes a header block; see sipsnMessageFragmentTryDecodeHeaders. The refusal may be null.
+SipsnMessageFragment *TryDecodeHeaders( Bytes head, int64_t *contentLength, Refusal *refusal );
+
+// The fault that a header block is refused for, and the bytes that are at fault.
+struct Explanation
+{
+    int64_t kind;
+    Bytes   where;
+};
+Explanation Explain( Bytes head, const Refusal &refusal );
+Explanation ExplainNoHeaderEnd( Bytes head );
+
+// The value of the last Content-Length in a header block, as it stands; empty, at the end, when there is none.
+Bytes FindContentLength( Bytes head );
+
+// Where the character at `index` of the value of a field stands in the lines of the field.
+const PbByte *PlaceInValue( Bytes lines, int64_t index );
+
+// The offset of the first start line behind the first line; -1 when there is none.
+int64_t FindStartLine( Bytes bytes );
+
+// The parts of a start line.
+bool          IsStartLine( Bytes line );
+SipsnVersion *TryDecodeVersion( Bytes text );
+int64_t       ReadStatusCode( Bytes digits ); // -1 when they are none, or make a number above 999
 
 // A header of a canonical name with these lines, or this one; the references are taken over.
 SipsnMessageHeader *CreateHeader( PbString *name, PbVector *lines );

@@ -108,7 +108,7 @@ static bool AdvanceToBody( SipsnMessageStreamDecoder *decoder )
     decoder->position = headerEnd;
 
     int64_t contentLength;
-    pb::Ref fragment{ sipsn::TryDecodeHeaders( bytes, headerEnd + 2, &contentLength ) };
+    pb::Ref fragment{ sipsn::TryDecodeHeaders( { bytes, headerEnd + 2 }, &contentLength, nullptr ) };
     if( !fragment || contentLength < 0 ) return false;
     if( !sipsnMessageFragmentIsRequest( fragment.Get() ) && !sipsnMessageFragmentIsResponse( fragment.Get() ) )
         return false;

@@ -8,8 +8,8 @@
 
 namespace {
 
-// Each case: the wire text, and its canonical form, which tells nearly everything about what was read; null when it
-// fails.
+// Each case: the wire text, and its canonical form, which tells nearly everything about what was read. What is refused
+// stands with the reader of messages.
 struct Case
 {
     const char *what, *wire, *canonical;
@@ -27,20 +27,6 @@ const Case startLines[] = {
     { "no phrase", "SIP/2.0 200\r\n\r\n", "SIP/2.0 200 \r\nContent-Length: 0\r\n\r\n" },
     { "an escaped phrase", "SIP/2.0 200 a%5eb%zz\r\n\r\n", "SIP/2.0 200 a%5Eb%25zz\r\nContent-Length: 0\r\n\r\n" },
     { "leading zeros", "SIP/2.0 00200 OK\r\n\r\n", "SIP/2.0 200 OK\r\nContent-Length: 0\r\n\r\n" },
-    { "a code that is too small", "SIP/2.0 99 X\r\n\r\n", nullptr },
-    { "a code that is too large", "SIP/2.0 1000 X\r\n\r\n", nullptr },
-    { "a code with a sign", "SIP/2.0 +200 OK\r\n\r\n", nullptr },
-    { "a code that is not all digits", "SIP/2.0 200x OK\r\n\r\n", nullptr },
-    { "no code", "SIP/2.0 \r\n\r\n", nullptr },
-    { "a version alone is no start line, and no header field", "SIP/2.0\r\n\r\n", nullptr },
-    { "a doubled space before the URI", "A  sip:a SIP/2.0\r\n\r\n", nullptr },
-    { "a doubled space before the version", "A sip:a  SIP/2.0\r\n\r\n", nullptr },
-    { "a space behind the version", "A sip:a SIP/2.0 \r\n\r\n", nullptr },
-    { "no version", "A sip:a\r\n\r\n", nullptr },
-    { "a malformed version", "A sip:a SIP2.0\r\n\r\n", nullptr },
-    { "a target that is no URI", "A b SIP/2.0\r\n\r\n", nullptr },
-    { "a target with a bad escape", "A sip:%4 SIP/2.0\r\n\r\n", nullptr },
-    { "a method that is no token", "A\xc3\xa9 sip:a SIP/2.0\r\n\r\n", nullptr },
 };
 
 const Case fields[] = {
@@ -68,16 +54,6 @@ const Case fields[] = {
     { "LF CR are two line ends", "To: a\n\r b: c\r\n", "Referred-By: c\r\nTo: a\r\nContent-Length: 0\r\n\r\n" },
     { "Unicode in a value", "Subject: \xe2\x82\xac \xf0\x9f\x93\x9e\r\n\r\n",
       "Subject: \xe2\x82\xac \xf0\x9f\x93\x9e\r\nContent-Length: 0\r\n\r\n" },
-    { "no colon", "Via\r\n\r\n", nullptr },
-    { "no name", ": a\r\n\r\n", nullptr },
-    { "a name that is no token", "Vi a: b\r\n\r\n", nullptr },
-    { "a name in Unicode", "Vi\xc3\xa9: b\r\n\r\n", nullptr },
-    { "a continuation behind an empty line that is no field", "To: a\n\n b\n", nullptr },
-    { "a byte-order mark is a character", "\xef\xbb\xbfTo: a\r\n\r\n", nullptr },
-    { "an overlong form", "To: \xc0\xaf\r\n\r\n", nullptr },
-    { "a surrogate", "To: \xed\xa0\x80\r\n\r\n", nullptr },
-    { "beyond Unicode", "To: \xf4\x90\x80\x80\r\n\r\n", nullptr },
-    { "a sequence that the line end cuts off", "To: a\xe2\x82\r\n\xac: b\r\n\r\n", nullptr },
 };
 
 const Case bodies[] = {
@@ -89,26 +65,11 @@ const Case bodies[] = {
     { "zeros before the length", "l: 0003\r\n\r\nbody", "Content-Length: 3\r\n\r\nbod" },
     { "the first empty line ends the headers", "Q: a\r\n\r\n\r\n\r\n", "Q: a\r\nContent-Length: 4\r\n\r\n\r\n\r\n" },
     { "bare LF is no empty line", "Q: a\n\nW: b", "Q: a\r\nW: b\r\nContent-Length: 0\r\n\r\n" },
-    { "not enough bytes", "l: 5\r\n\r\nbody", nullptr },
-    { "no bytes", "l: 1\r\n\r\n", nullptr },
-    { "no empty line", "l: 1\r\n", nullptr },
-    { "a length beyond everything", "l: 9223372036854775807\r\n\r\nbody", nullptr },
-    { "a length that does not fit", "l: 9223372036854775808\r\n\r\nbody", nullptr },
-    { "a negative length", "l: -1\r\n\r\nbody", nullptr },
-    { "a signed length", "l: +3\r\n\r\nbody", nullptr },
-    { "a negative zero", "l: -0\r\n\r\nbody", nullptr },
-    { "a length in pieces", "l: 3 3\r\n\r\nbody", nullptr },
-    { "an empty length", "l:\r\n\r\nbody", nullptr },
-    { "a fraction", "l: 3.0\r\n\r\nbody", nullptr },
 };
 
 void Check( const Case &test )
 {
     pb::Ref frag = Fragment( test.wire );
-    if( !test.canonical ) {
-        EXPECT_FALSE( frag ) << test.what;
-        return;
-    }
     ASSERT_TRUE( frag ) << test.what;
     const std::string encoded = Take( sipsnMessageFragmentEncode( frag.Get() ) );
     EXPECT_EQ( encoded, test.canonical ) << test.what;

@@ -1,0 +1,122 @@
+// How bytes are cut into lines, and lines into header fields: the decoder, and whoever says where in a message
+// something stands, cut with this. C++ only; never installed.
+#pragma once
+
+#include "pb/pb_frame.h"
+
+#include <cstring>
+
+#if defined( __SSE2__ )
+#include <emmintrin.h>
+#endif
+
+namespace sipsn {
+
+// A run of bytes in somebody else's memory.
+struct Bytes
+{
+    const PbByte *data   = nullptr;
+    int64_t       length = 0;
+
+    bool          Empty() const { return length == 0; }
+    PbByte        Front() const { return data[ 0 ]; }
+    const PbByte *End() const { return data + length; }
+    Bytes         From( int64_t index ) const { return { data + index, length - index }; }
+    Bytes         First( int64_t count ) const { return { data, count }; }
+};
+
+inline bool IsBlank( PbByte byte ) { return byte == ' ' || byte == '\t'; }
+inline bool IsLineEnd( PbByte byte ) { return byte == '\r' || byte == '\n'; }
+
+inline Bytes SkipBlanks( Bytes text )
+{
+    while( !text.Empty() && IsBlank( text.Front() ) ) text = text.From( 1 );
+    return text;
+}
+
+inline Bytes TrimEnd( Bytes text )
+{
+    while( !text.Empty() && IsBlank( text.data[ text.length - 1 ] ) ) --text.length;
+    return text;
+}
+
+inline Bytes Trim( Bytes text ) { return TrimEnd( SkipBlanks( text ) ); }
+
+inline int64_t Find( Bytes text, char wanted )
+{
+    const void *found = text.Empty() ? nullptr : std::memchr( text.data, wanted, size_t( text.length ) );
+    return found ? static_cast< const PbByte * >( found ) - text.data : -1;
+}
+
+// How many bytes stand before the first CR or LF.
+inline int64_t FindLineEnd( Bytes text )
+{
+    int64_t at = 0;
+#if defined( __SSE2__ )
+    const __m128i cr = _mm_set1_epi8( '\r' );
+    const __m128i lf = _mm_set1_epi8( '\n' );
+    for( ; at + 16 <= text.length; at += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast< const __m128i * >( text.data + at ) );
+        const int found = _mm_movemask_epi8( _mm_or_si128( _mm_cmpeq_epi8( block, cr ), _mm_cmpeq_epi8( block, lf ) ) );
+        if( found ) return at + __builtin_ctz( unsigned( found ) );
+    }
+#endif
+    while( at < text.length && !IsLineEnd( text.data[ at ] ) ) ++at;
+    return at;
+}
+
+// Takes one line off the front, with its line end: CR LF, a lone CR or a lone LF.
+inline Bytes TakeLine( Bytes &text )
+{
+    const int64_t length = FindLineEnd( text );
+    const Bytes   line   = text.First( length );
+    text                 = text.From( length );
+    if( !text.Empty() ) text = text.From( text.length > 1 && text.data[ 0 ] == '\r' && text.data[ 1 ] == '\n' ? 2 : 1 );
+    return line;
+}
+
+// Moves over the header fields of a message. A line that begins with a blank continues the field before it, unless an
+// empty line stands between them.
+class FieldCutter
+{
+public:
+    // The lines after the start line.
+    explicit FieldCutter( Bytes lines ) : rest_{ lines } {}
+
+    // False when there are no more.
+    bool Next()
+    {
+        joined_ = {};
+        do {
+            if( rest_.Empty() ) return false;
+            line_ = Trim( TakeLine( rest_ ) );
+        } while( line_.Empty() );
+        while( !rest_.Empty() && IsBlank( rest_.Front() ) ) Continue( Trim( TakeLine( rest_ ) ) );
+        return true;
+    }
+
+    // The field as one line: its own bytes as long as it has only one; else a copy, in which a space stands for each
+    // line end and the blanks around it.
+    Bytes Text() const
+    {
+        return joined_ ? Bytes{ pbBufferBacking( joined_.Get() ), pbBufferLength( joined_.Get() ) } : line_;
+    }
+
+    // The field as it stands, from its name to its line end.
+    Bytes Lines() const { return { line_.data, rest_.data - line_.data }; }
+
+private:
+    void Continue( Bytes line )
+    {
+        if( line.Empty() ) return;
+        if( !joined_ ) joined_ = pb::Ref{ pbBufferCreateFromBytesCopy( line_.data, line_.length ) };
+        pbBufferAppendBytes( joined_.Slot(), " ", 1 );
+        pbBufferAppendBytes( joined_.Slot(), line.data, line.length );
+    }
+
+    Bytes               rest_;
+    Bytes               line_; // the field's first one
+    pb::Ref< PbBuffer > joined_;
+};
+
+} // namespace sipsn
