@@ -1,6 +1,7 @@
-# install_test.sh BUILD COMPILER: installs a build, moves it, and uses it as a stranger would, by pkg-config and by CMake.
+# install_test.sh BUILD COMPILER GENERATOR: installs a build, moves it, and uses it as a stranger would, by pkg-config and
+# by CMake.
 set -euo pipefail
-build=$1 compiler=$2
+build=$1 compiler=$2 generator=$3
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 scratch=$build/tests/install/scratch
 prefix=$scratch/prefix
@@ -21,7 +22,7 @@ PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name sipsn.pc)")
     $(pkg-config --cflags --libs sipsn) -Wl,-rpath,"$(pkg-config --variable=libdir sipsn)"
 [ "$("$scratch/by_pkg_config")" = "$expected" ] || fail 'A program built by pkg-config does not work'
 
-cmake -S "$here/consumer" -B "$scratch/build" -D CMAKE_C_COMPILER="$compiler" -D CMAKE_PREFIX_PATH="$prefix" > /dev/null
+cmake -G "$generator" -S "$here/consumer" -B "$scratch/build" -D CMAKE_C_COMPILER="$compiler" -D CMAKE_PREFIX_PATH="$prefix" > /dev/null
 cmake --build "$scratch/build" > /dev/null
 [ "$("$scratch/build/by_cmake")" = "$expected" ] || fail 'A program built by CMake does not work'
 
