@@ -1,131 +1,38 @@
-"""Writes what follows from the sources of the libraries, so that nobody lists it by hand.
+"""Writes what follows from the headers of the libraries, so that nobody lists it by hand.
 
     lists.py                    compares everything with what it should be; status 1 and the differences when they part
     lists.py --write            writes it anew
     lists.py --library FILE...  compares the export lists with what built libraries export
 
-Of every component: <component>.exports, the names that its headers export; in its headers, the declarations that are
-the same for many types; the includes of <component>.h. Of sipsn: sipsn_families.inc, sipsn_values.inc, the registers of
-header families and of structured values. All follows from the headers. What does not have the expected form is an error,
-and never left out.
+It writes <component>.exports, the names that the headers of a component export; the numbers in README and documents that
+say how many there are of something; and, in headers, registers and documents, what belongs between a line
+
+    /* ./dev lists: TYPE( SipsnVia ) */
+
+and a line /* ./dev lists: end */, which it adds where it is not yet.
 """
 import argparse
-import dataclasses
+import functools
 import pathlib
 import re
 import subprocess
 import sys
 
-ROOT = pathlib.Path(__file__).resolve().parent.parent
-SOURCE = ROOT / "source"
-COMPONENTS = sorted(path.parent.name for path in SOURCE.glob("*/CMakeLists.txt"))
+sys.dont_write_bytecode = True
+from headers import (COMPONENTS, DIRECTIVE, ROOT, SOURCE, compact_names, directives, exports, fail, public_headers, snake,
+                     types, words)
 
-# The families start in the order of their names, but for these, which start behind another one. That order can be
-# observed, by a tracer of allocations say, and is kept for those who do.
+# The families start in the order of their names, but for these, which start behind another one.
 STARTS_BEHIND = {"Accept": "AcceptResourcePriority", "SessionExpires": "SessionId"}
 
 
-def fail(where, what):
-    sys.exit(f"{where}: {what}")
-
-
-def find(pattern, text, where, what):
-    """The groups of a pattern that must occur."""
-    match = re.search(pattern, text, re.MULTILINE)
-    return match.groups() if match else fail(where, f"has no {what}")
-
-
-def snake(name):
-    """sipsn_header_p_early_media of SipsnHeaderPEarlyMedia."""
-    return re.sub(r"(?<!^)(?=[A-Z])", "_", name).lower()
-
-
-# ---- Exported names --------------------------------------------------------------------------------
-
-LINE_MARK = re.compile(r'# \d+ "(.*?)"')
-ATTRIBUTE = re.compile(r"__attribute__\s*\(\s*\(.*?\)\s*\)(?:\s*\))?")
-EXPORT = re.compile(r'__attribute__\s*\(\s*\(\s*visibility\s*\(\s*"default"\s*\)\s*\)\s*\)([^;{]*)[;{]')
-DECLARED_NAME = re.compile(r"(\w+)\s*(?:\(|\[|$)")
-SORT_FUNCTION = re.compile(r"PbSort\s*\*\s*(\w+)Sort\s*\(\s*void\s*\)")
-
-
-def own_declarations(component):
-    """The text of the component's headers after preprocessing, without what they include from elsewhere."""
-    folder = SOURCE / component
-    includes = "".join(f'#include "{component}/{header.name}"\n' for header in sorted(folder.glob("*.h")))
-    result = subprocess.run(["g++", "-std=c++20", "-E", "-I", SOURCE, "-x", "c++", "-"], input=includes,
-                            stdout=subprocess.PIPE, text=True)
-    if result.returncode:
-        fail(component, "the headers have errors")
-    kept, inside = [], False
-    for line in result.stdout.splitlines():
-        mark = LINE_MARK.match(line)
-        if mark:
-            inside = pathlib.Path(mark.group(1)).parent == folder
-        elif inside:
-            kept.append(line)
-    return "\n".join(kept)
-
-
-def declared(component):
-    """The names that the component's headers declare with default visibility, and the sort records of its types: the
-    type of `sipsnReasonSort( void )` has the record sipsn___sort_SIPSN_REASON."""
-    text = own_declarations(component)
-    names = set()
-    for declaration in EXPORT.findall(text):
-        names.add(DECLARED_NAME.search(ATTRIBUTE.sub("", declaration).strip()).group(1))
-    for type_name in SORT_FUNCTION.findall(text):
-        names.add(f"{component}___sort_" + snake(type_name).upper())
-    comment = re.compile(r"/\*.*?\*/", re.DOTALL)
-    written = set(re.findall(r"\w+", "".join(comment.sub("", header.read_text()) for header in public_headers(component))))
-    for name in sorted(names - written):
-        if "___" not in name:
-            fail(component, f"{name} is public, but a macro makes it: it stands in no header")
-    # "spisn" begins one name of sipsn that has been misspelt since it was first exported.
-    for name in sorted(names):
-        if not re.match(rf"{component}(?=[A-Z_])|spisn", name):
-            fail(component, f"{name} is declared here, but named as if it were not")
-    return sorted(names)
-
-
-def exports_path(component):
-    return SOURCE / component / f"{component}.exports"
-
-
-def compare_library(library):
-    """The differences between an export list and the dynamic symbols that a shared library defines."""
-    component = pathlib.Path(library).name.split(".")[0].removeprefix("lib")
-    lines = subprocess.run(["nm", "-D", "--defined-only", library], stdout=subprocess.PIPE, text=True,
-                           check=True).stdout.splitlines()
-    built = {line.split()[-1].split("@")[0] for line in lines if line.strip()}
-    listed = set(exports_path(component).read_text().split())
-    return [f"{name}: listed, but lib{component} does not export it" for name in sorted(listed - built)] + \
-           [f"{name}: exported by lib{component}, but not listed" for name in sorted(built - listed)]
-
-
-# ---- Headers ---------------------------------------------------------------------------------------
+# ---- Declarations ----------------------------------------------------------------------------------
 #
-# A line /* ./dev lists: TYPE( SipsnVia ) */ in a public header stands for declarations, which follow it in full, up to a
-# line /* ./dev lists: end */. They are those that pb_types.h or sipsn_header.h describes, with the names replaced.
+# A directive such as TYPE( SipsnVia ) stands for declarations that many headers have: those that pb_types.h or
+# sipsn_header.h describes under that word for one type, with the names replaced.
 
-DIRECTIVE = r"^/\* \./dev lists: (?!end)(\w+)(?:\( ([\w, ]+) \))?(?:, see [\w.]+)? \*/\n"
-BLOCK = re.compile(DIRECTIVE + r"(?:(?:(?!/\* \./dev lists: ).*\n)*/\* \./dev lists: end \*/\n)?", re.MULTILINE)
 DESCRIPTION = re.compile(r"^/\* (\w+)\( ([\w, ]+) \)(?: of (\w+))? declares(.*?)\*/$", re.MULTILINE | re.DOTALL)
 DESCRIBED_LINE = re.compile(r"^ \*(?:     (\S.*;).*)?$", re.MULTILINE)
-
-
-def public_headers(component):
-    """Those with include guards; `#pragma once` makes a header the libraries' own."""
-    headers = sorted((SOURCE / component).glob("*.h"))
-    return [header for header in headers if "#pragma once" not in header.read_text()]
-
-
-def directives(header):
-    """What a header asks for: the arguments by the directive's word."""
-    found = re.findall(DIRECTIVE, header.read_text(), re.MULTILINE)
-    if len(found) != len(re.findall(r"\./dev lists: (?!end)", header.read_text())):
-        fail(header.name, "has a directive that is not understood")
-    return {word: arguments.split(", ") for word, arguments in found}
 
 
 def lower_first(name):
@@ -133,11 +40,12 @@ def lower_first(name):
 
 
 def spellings(type_name, arguments):
-    """The names that declarations are made of: of the type, of its functions, the arguments, and of a parameter."""
-    last = next((name for name in reversed(arguments) if name != "PbString"), "")
-    return [type_name, lower_first(type_name), *arguments, lower_first(last.removeprefix("Sipsn"))]
+    """The names in declarations: of the type, of its functions, the arguments, and of a parameter."""
+    value = next((name for name in reversed(arguments) if name != "PbString"), "")
+    return [type_name, lower_first(type_name), *arguments, lower_first(value.removeprefix("Sipsn"))]
 
 
+@functools.cache
 def descriptions():
     """By the directive's word: the header that describes it, the names there, and the declarations."""
     found = {}
@@ -150,12 +58,9 @@ def descriptions():
     return found
 
 
-DESCRIPTIONS = descriptions()
-
-
 def declarations(word, type_name, arguments):
     """The declarations that a directive stands for."""
-    where, described, lines = DESCRIPTIONS[word]
+    _, described, lines = descriptions()[word]
     spelt = dict(zip(described, spellings(type_name, arguments)))
     pattern = re.compile("|".join(sorted(filter(None, spelt), key=len, reverse=True)))
     text = ""
@@ -165,174 +70,165 @@ def declarations(word, type_name, arguments):
     return declarations("TYPE", type_name, arguments) + "\n" + text if word == "HEADER" else text
 
 
-def filled(header):
-    """The text of a public header with what its directives stand for."""
-    asked = directives(header)
-    type_name = next((asked[word][0] for word in ("TYPE", "OBJECT", "HEADER") if word in asked), None)
+# ---- Registers and tables --------------------------------------------------------------------------
 
-    def fill(match):
-        word, arguments = match.groups()
-        if word == "includes":
-            mark, text = word, "".join(f'#include "{other.name}"\n' for other in public_headers(header.parent.name)
-                                       if other != header)
-        else:
-            mark = f"{word}( {arguments} ), see {DESCRIPTIONS[word][0]}"
-            text = declarations(word, type_name, arguments.split(", ") if arguments != type_name else [])
-        return f"/* ./dev lists: {mark} */\n{text}/* ./dev lists: end */\n"
-
-    return BLOCK.sub(fill, header.read_text())
+def quoted(text):
+    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
-# ---- The registers of sipsn ------------------------------------------------------------------------
-
-@dataclasses.dataclass
-class Family:
-    """A header family: SipsnHeader<type>, the field's canonical and compact name, and how its items are declared."""
-    type: str
-    name: str
-    compact: str
-    rfc: str
-    kind: str
-    items: list
-
-    def row(self):
-        return self.kind, [self.type, f'"{self.name}"', f'"{self.compact}"', f'"{self.rfc}"', *self.items]
-
-
-@dataclasses.dataclass
-class Value:
-    """A structured value: Sipsn<type>, and its name in running text."""
-    type: str
-    name: str
-    rfc: str
-
-    def row(self):
-        return "VALUE", [self.type, f'"{self.name}"', f'"{self.rfc}"']
-
-
-def items_of(declared_by):
-    """The kind of a family and its further columns."""
-    if "SET" in declared_by:
-        return "TOKENS", [*declared_by["SET"], "set"]
-    if "LIST" not in declared_by:
-        return "SINGLE", []
-    items, item, value = declared_by["LIST"]
-    return ("TOKENS", [items, item, "list"]) if value == "PbString" else ("VALUES", [items, item, value[5:]])
-
-
-def families():
-    """All header families, by name."""
-    compact = {name: letter for letter, name in re.findall(
-        r"^    \{ '(\w)', \"([\w-]+)\" \},$", (SOURCE / "sipsn/sipsn_header_names.cpp").read_text(), re.MULTILINE)}
-    found = []
-    for header in public_headers("sipsn"):
-        declared_by = directives(header)
-        if "HEADER" not in declared_by:
-            continue
-        struct, field, rfc = find(r"\A/\* (\w+): the ([\w-]+) header field, (RFC \d+|draft-[\w-]+)", header.read_text(),
-                                  header.name, "first line that names the type, the header field and its RFC")
-        name = snake(struct.removeprefix("SipsnHeader")).replace("_", "-").title()
-        if declared_by["HEADER"][0] != struct or header.stem != snake(struct) or name.lower() != field.lower():
-            fail(header.name, f"is named otherwise than {struct}, or than the header field {field}")
-        found.append(Family(struct[11:], name, compact.get(name, ""), rfc, *items_of(declared_by)))
-    return found
-
-
-def values():
-    """All structured values, by name: the types that have an example of their text."""
-    found = []
-    for header in public_headers("sipsn"):
-        text = header.read_text()
-        if "TYPE" not in directives(header) or not re.search(r"^ \* Example: ", text, re.MULTILINE):
-            continue
-        struct, rfc = find(r"\A/\* (\w+): (?:.*\n)*?.*?(RFC \d+)", text, header.name, "first line that names the type")
-        if header.stem != snake(struct):
-            fail(header.name, f"is named otherwise than {struct}")
-        found.append(Value(struct[5:], snake(struct)[6:].replace("_", "-"), rfc))
-    return found
-
-
-def in_start_order(found):
-    ordered = [family for family in found if family.type not in STARTS_BEHIND]
-    for late, other in STARTS_BEHIND.items():
-        place = [family.type for family in ordered].index(other)
-        ordered.insert(place + 1, next(family for family in found if family.type == late))
-    return ordered
-
-
-def table(entries):
+def register(rows):
     """One macro call a line, the arguments in columns."""
-    rows = [entry.row() for entry in entries]
-    widths = {}
-    for _, cells in rows:
-        for at, cell in enumerate(cells):
-            widths[at] = max(widths.get(at, 0), len(cell) + 2)
-    return "".join(f"{macro}( " + "".join(f"{cell}, ".ljust(widths[at]) for at, cell in enumerate(cells)).rstrip(", ")
-                   + " )\n" for macro, cells in rows)
+    rows = [(f"{macro}( {first}", *cells) for macro, first, *cells in rows]
+    columns = max(map(len, rows))
+    widths = [max(len(row[at]) for row in rows if len(row) > at + 1) + 2 for at in range(columns - 1)]
+    lines = ("".join(f"{cell}, ".ljust(width) for cell, width in zip(row[:-1], widths)) + row[-1] for row in rows)
+    return "".join(f"{line} )\n" for line in lines)
 
 
-FAMILIES = """\
-// Every header family, one a line, in the order in which they start. Written by ./dev lists.
-//
-// Define FAMILY, or the three macros that it stands for, and include this file; it undefines them again.
-//
-//     FAMILY( Type, name, compact, rfc )                         any family
-//     VALUES( Type, name, compact, rfc, Items, Item, Value )     a list of structured values
-//     TOKENS( Type, name, compact, rfc, Items, Item, shape )     tokens: a list, in order, or a set, each once
-//     SINGLE( Type, name, compact, rfc )                         every other
-//
-// So this calls sipsn___HeaderAcceptEncodingStartup(), sipsn___HeaderAcceptResourcePriorityStartup() and so on:
-//
-//     #define FAMILY( Type, ... ) sipsn___Header##Type##Startup();
-//     #include "sipsn_families.inc"
-#ifdef FAMILY
-#define VALUES( Type, name, compact, rfc, Items, Item, Value ) FAMILY( Type, name, compact, rfc )
-#define TOKENS( Type, name, compact, rfc, Items, Item, shape ) FAMILY( Type, name, compact, rfc )
-#define SINGLE( Type, name, compact, rfc )                     FAMILY( Type, name, compact, rfc )
-#endif
+def families_register():
+    families = {family.short: family for family in types("HEADER")}
+    order = [short for short in families if short not in STARTS_BEHIND]
+    for late, other in STARTS_BEHIND.items():
+        order.insert(order.index(other) + 1, late)
+    rows = []
+    for family in map(families.get, order):
+        word, columns = family.items()
+        compact = compact_names().get(family.name, "")
+        rows.append([word, family.short, quoted(family.name), quoted(compact), quoted(family.rfc), *columns])
+    return register(rows)
 
-"""
-FAMILIES_END = """
-#undef FAMILY
-#undef VALUES
-#undef TOKENS
-#undef SINGLE
-"""
-VALUES = """\
-// Every structured value, one a line, by name. Written by ./dev lists.
-//
-// Define VALUE( Type, name, rfc ) and include this file; it undefines it again. So this declares struct SipsnAccept,
-// struct SipsnAcceptEncoding and so on:
-//
-//     #define VALUE( Type, ... ) struct Sipsn##Type;
-//     #include "sipsn_values.inc"
 
-"""
-VALUES_END = """
-#undef VALUE
-"""
+def values_register():
+    return register([["VALUE", value.short, quoted(value.name), quoted(value.rfc)] for value in types("VALUE")])
+
+
+def types_register():
+    return register([[entry.kind, entry.short, *([quoted(entry.example)] if entry.example else [])]
+                     for kind in ("HEADER", "VALUE", "OBJECT") for entry in types(kind)])
+
+
+def link(entry):
+    return f"[{entry.struct}](../{entry.header.relative_to(ROOT)})"
+
+
+def families_table():
+    text = "| header field | compact | holds | type | RFC | example |\n|---|---|---|---|---|---|\n"
+    for family in types("HEADER"):
+        word, columns = family.items()
+        holds = {"SINGLE": "value", "VALUES": "list: Sipsn{2}", "TOKENS": "token {2}: {items}"}[word].format(
+            *columns, items=snake(columns[0]).replace("_", " ") if columns else "")
+        compact = compact_names().get(family.name, "")
+        text += f"| {family.field} | {compact} | {holds} | {link(family)} | {family.rfc} | `{family.example}` |\n"
+    return text
+
+
+def values_table():
+    return "| value | type | RFC | example |\n|---|---|---|---|\n" + "".join(
+        f"| {value.name} | {link(value)} | {value.rfc} | `{value.example}` |\n" for value in types("VALUE"))
+
+
+# ---- Numbers ---------------------------------------------------------------------------------------
+
+@functools.cache
+def numbers():
+    """By document, the phrases that tell a number, with # in its place, and the number."""
+    names = exports("sipsn")
+    public = {name for name in names if "___" not in name}
+
+    def declared_in(headers):
+        return sum(len(public & words(header)) for header in headers)
+
+    def internal(pattern):
+        return len([name for name in names if re.fullmatch(f"sipsn___{pattern}", name)])
+
+    headers, values = (declared_in(entry.header for entry in types(kind)) for kind in ("HEADER", "VALUE"))
+    messages = declared_in(header for header in public_headers("sipsn")
+                           if re.match("sipsn_(message|version|module|fault)", header.stem))
+    schema = declared_in([SOURCE / "sipsn/sipsn_schema.h"])
+    productions, classes = internal(r"Skip\w+"), internal(r"CharIs\w+")
+    files, coders = internal(r"\w+(?:Startup|Shutdown)"), internal(r"\w+(?:Encode|Decode)")
+    sorts, constants, module = internal(r"sort_\w+"), internal(r"Pbs\w+"), internal(r"module\w*")
+    if len(public) + productions + classes + files + coders + sorts + constants + module != len(names):
+        fail("sipsn.exports", "has a name that is in no class that docs/architecture.md counts")
+    return {"README.md": {"# header fields have a type of": len(types("HEADER"))}, "docs/architecture.md": {
+        "# header fields, decoded": len(types("HEADER")),
+        "sipsn_skip (# productions)": productions,
+        "libsipsn exports # names": len(names),
+        "| header types, `sipsnHeader...` | # |": headers,
+        "| structured values | # |": values,
+        "| messages, header fields, versions, the stream decoder, the reader, the module | # |": messages,
+        "| the schema, `sipsnSchema...` | # |": schema,
+        "| token families | # |": len(public) - headers - values - messages - schema,
+        "| **public functions** | **#** |": len(public),
+        "| productions, `sipsn___Skip...` | # |": productions,
+        "| character classes, `sipsn___CharIs...` | # |": classes,
+        "| start-up and shutdown of files | # |": files,
+        "| encoders and decoders of values and tokens | # |": coders,
+        "| **internal functions** | **#** |": productions + classes + files + coders,
+        "| sort records, `sipsn___sort_...` | # |": sorts,
+        "| name constants, `sipsn___Pbs...` | # |": constants,
+        "| module object, record and version string | # |": module,
+    }}
+
+
+def counted(path, text):
+    """A document with its numbers."""
+    for phrase, number in numbers().get(str(path.relative_to(ROOT)), {}).items():
+        before, after = map(re.escape, phrase.split("#"))
+        text, found = re.subn(rf"({before})\d[\d,]*({after})", rf"\g<1>{number:,}\2", text)
+        if found != 1:
+            fail(path.name, f"says {found} times instead of once: {phrase}")
+    return text
 
 
 # ---- All of it -------------------------------------------------------------------------------------
 
+WRITERS = {"families": families_register, "values": values_register, "types": types_register,
+           "families_table": families_table, "values_table": values_table}
+BLOCK = re.compile(DIRECTIVE.pattern + r"(?:(?:(?!.*\./dev lists: ).*\n)*.*\./dev lists: end.*\n)?", re.MULTILINE)
+
+
+def filled(path):
+    """The text of a file with what its directives stand for."""
+    asked = directives(path)
+    type_name = next((asked[word][0] for word in ("TYPE", "OBJECT", "HEADER") if word in asked), None)
+
+    def fill(match):
+        word, arguments = match["word"], match["arguments"] or ""
+        heading = f"{word}( {arguments} )" if arguments else word
+        if word in WRITERS:
+            text = WRITERS[word]()
+        elif word == "includes":
+            text = "".join(f'#include "{header.name}"\n' for header in public_headers(path.parent.name) if header != path)
+        elif word in descriptions():
+            heading += f", see {descriptions()[word][0]}"
+            text = declarations(word, type_name, [] if arguments == type_name else arguments.split(", "))
+        else:
+            fail(path.name, f"asks for {word}, which is not known")
+        begin, end = (f"{match['open']} ./dev lists: {mark}{match['close']}\n" for mark in (heading, "end"))
+        return begin + text + end
+
+    return BLOCK.sub(fill, path.read_text())
+
+
 def made():
-    """Every file that is written, as pairs of its path and its text."""
+    """Every file that is written, as pairs of its path and its text. The export lists follow from the headers."""
     for component in COMPONENTS:
-        yield from ((header, filled(header)) for header in public_headers(component) if directives(header))
-        yield exports_path(component), "".join(name + "\n" for name in declared(component))
-    yield SOURCE / "sipsn/sipsn_families.inc", FAMILIES + table(in_start_order(families())) + FAMILIES_END
-    yield SOURCE / "sipsn/sipsn_values.inc", VALUES + table(values()) + VALUES_END
+        for path in [*public_headers(component), *sorted((SOURCE / component).glob("*.inc"))]:
+            yield path, filled(path)
+        yield SOURCE / component / f"{component}.exports", "".join(name + "\n" for name in exports(component))
+    for path in [ROOT / "README.md", *sorted((ROOT / "docs").glob("*.md"))]:
+        yield path, counted(path, filled(path))
 
 
 def stands(path, text):
     """Whether a file holds a text; the blanks of a header are the formatter's."""
-    if not path.exists():
-        return False
-    standing = path.read_text()
+    standing = path.read_text() if path.exists() else ""
     return standing == text or path.suffix == ".h" and standing.split() == text.split()
 
 
 def write(path, text):
+    print(f"Writing {path.relative_to(ROOT)}")
     path.write_text(text)
     if path.suffix == ".h":
         subprocess.run(["clang-format-14", "-i", path], check=True)
@@ -340,10 +236,20 @@ def write(path, text):
 
 def differences(path, text):
     """What tells a file from what it should be, shortly."""
-    standing = path.read_text().splitlines() if path.exists() else []
-    wanted = text.splitlines()
+    standing, wanted = (path.read_text() if path.exists() else "").split("\n"), text.split("\n")
     lines = [f"+ {line}" for line in wanted if line not in standing] + [f"- {line}" for line in standing if line not in wanted]
     return [f"{path.relative_to(ROOT)} is not what ./dev lists writes:", *(lines[:20] or ["the order of its lines"])]
+
+
+def compare_library(library):
+    """The differences between an export list and the dynamic symbols that a shared library defines."""
+    component = pathlib.Path(library).name.split(".")[0].removeprefix("lib")
+    lines = subprocess.run(["nm", "-D", "--defined-only", library], stdout=subprocess.PIPE, text=True,
+                           check=True).stdout.splitlines()
+    built = {line.split()[-1].split("@")[0] for line in lines if line.strip()}
+    listed = set((SOURCE / component / f"{component}.exports").read_text().split())
+    return [f"{name}: listed, but lib{component} does not export it" for name in sorted(listed - built)] + \
+           [f"{name}: exported by lib{component}, but not listed" for name in sorted(built - listed)]
 
 
 def main():
