@@ -13,11 +13,11 @@ struct MemberRecord
 {
     SipsnSchemaMember shown;
 
-    void ( *del )( PbObj **obj )                            = nullptr; // null: the member is never absent
-    int64_t ( *number )( PbObj *obj )                       = nullptr;
-    PbObj *( *object )( PbObj *obj )                        = nullptr;
-    bool ( *trySetNumber )( PbObj **obj, int64_t number )   = nullptr;
-    bool ( *trySetObject )( PbObj **obj, PbObj *value )     = nullptr;
+    void ( *del )( PbObj **obj )                          = nullptr; // null: the member is never absent
+    int64_t ( *number )( PbObj *obj )                     = nullptr;
+    PbObj *( *object )( PbObj *obj )                      = nullptr;
+    bool ( *trySetNumber )( PbObj **obj, int64_t number ) = nullptr;
+    bool ( *trySetObject )( PbObj **obj, PbObj *value )   = nullptr;
 };
 
 // A text form: null where a type has none.
@@ -170,8 +170,9 @@ template< class T, size_t n > struct MemberFunctions
 
     static constexpr MemberRecord Record()
     {
-        MemberRecord record{ .shown = { row.name.data(), row.kind, row.optional, lowest, highest, Param(), Holds(), Type() },
-                             .del   = row.optional ? Del : nullptr };
+        MemberRecord record{
+            .shown = { row.name.data(), row.kind, row.optional, lowest, highest, Param(), Holds(), Type() },
+            .del   = row.optional ? Del : nullptr };
         if constexpr( isNumber ) {
             record.number       = Number;
             record.trySetNumber = TrySetNumber;
@@ -184,14 +185,17 @@ template< class T, size_t n > struct MemberFunctions
 };
 
 // Rows that are plain pointers to members are not described.
-template< class T, size_t n > inline constexpr bool isDescribed = requires { std::get< n >( pb::membersOf< T >.rows ).name; };
+template< class T, size_t n > inline constexpr bool isDescribed = requires
+{
+    std::get< n >( pb::membersOf< T >.rows ).name;
+};
 
 template< class T, size_t... n > consteval auto MakeMemberRecords( std::index_sequence< n... > )
 {
-    constexpr size_t count = ( size_t{ isDescribed< T, n > } + ... + 0 );
+    constexpr size_t                  count = ( size_t{ isDescribed< T, n > } + ... + 0 );
     std::array< MemberRecord, count > records{};
     [[maybe_unused]] size_t           next = 0;
-    const auto add = [ & ]< size_t at >( std::integral_constant< size_t, at > ) {
+    const auto                        add  = [ & ]< size_t at >( std::integral_constant< size_t, at > ) {
         if constexpr( isDescribed< T, at > ) records[ next++ ] = MemberFunctions< T, at >::Record();
     };
     ( add( std::integral_constant< size_t, n >{} ), ... );
@@ -220,14 +224,9 @@ template< class Form > bool WatchForm( const Form &form, Span text, Watch &watch
 
 // The records, each in the file of its type.
 
-#define VALUE( Type, ... ) extern const TypeRecord schema##Type;
-#include "sipsn_values.inc"
-#define FAMILY( Type, ... )                                                                                            \
-    extern const TypeRecord  schemaHeader##Type;                                                                       \
-    extern const ShapeRecord shapeOfHeader##Type;
+#define TYPE( Type, ... ) extern const TypeRecord schema##Type;
+#include "sipsn_types.inc"
+#define FAMILY( Type, ... ) extern const ShapeRecord shapeOfHeader##Type;
 #include "sipsn_families.inc"
-#undef FAMILY
-extern const TypeRecord schemaVersion, schemaMessage, schemaMessageFragment, schemaMessageHeader,
-    schemaMessageStreamDecoder;
 
 } // namespace sipsn

@@ -10,19 +10,18 @@
 
 namespace {
 
-using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::Span, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted, sipsn::Watch;
+using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::Span, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted,
+    sipsn::Watch;
 
 constexpr const TypeRecord *types[] = {
-#define VALUE( Type, ... ) &sipsn::schema##Type,
-#include "sipsn_values.inc"
-#define FAMILY( Type, ... ) &sipsn::schemaHeader##Type,
-#include "sipsn_families.inc"
-#undef FAMILY
-    &sipsn::schemaVersion,
-    &sipsn::schemaMessage,
-    &sipsn::schemaMessageFragment,
-    &sipsn::schemaMessageHeader,
-    &sipsn::schemaMessageStreamDecoder,
+#define TYPE( Type, ... ) &sipsn::schema##Type,
+#include "sipsn_types.inc"
+};
+
+constexpr const char *examples[] = {
+    // of those
+#define TYPE( Type, example ) example,
+#include "sipsn_types.inc"
 };
 
 // A family's own functions, and what the schema shows of it.
@@ -35,13 +34,11 @@ struct FamilyRecord
 const FamilyRecord families[] = {
 #define FAMILY( Type, name, compact, rfc )                                                                             \
     { &sipsn::shapeOfHeader##Type,                                                                                     \
-      { name, *compact ? compact : nullptr, sipsn::shapeOfHeader##Type.shape, rfc,                              \
+      { name, *compact ? compact : nullptr, sipsn::shapeOfHeader##Type.shape, rfc,                                     \
         &sipsn::shapeOfHeader##Type.type->shown,                                                                       \
         sipsn::shapeOfHeader##Type.itemType ? &sipsn::shapeOfHeader##Type.itemType->shown : nullptr } },
 #include "sipsn_families.inc"
-#undef FAMILY
 };
-
 
 // By the names of the fields; the register has them in the order in which they start.
 const auto familiesByName = [] {
@@ -62,7 +59,8 @@ const TypeRecord &RecordOf( const SipsnSchemaType *type )
 const ShapeRecord &ShapeOf( const SipsnSchemaFamily *family )
 {
     PB_ASSERT( family );
-    const auto found = std::ranges::find( families, family, []( const FamilyRecord &record ) { return &record.shown; } );
+    const auto found =
+        std::ranges::find( families, family, []( const FamilyRecord &record ) { return &record.shown; } );
     PB_ASSERT( found != std::end( families ) );
     return *found->shape;
 }
@@ -112,6 +110,12 @@ const SipsnSchemaType *sipsnSchemaTypeByName( const char *name )
     return found == std::end( types ) ? nullptr : &( *found )->shown;
 }
 
+const char *sipsnSchemaExample( const SipsnSchemaType *type )
+{
+    PB_ASSERT( type );
+    return examples[ std::ranges::find( types, &RecordOf( type ) ) - std::begin( types ) ];
+}
+
 const SipsnSchemaType *sipsnSchemaTypeOf( PbObj *obj ) { return &RecordOf( obj ).shown; }
 
 int64_t sipsnSchemaFamiliesLength( void ) { return std::size( families ); }
@@ -128,9 +132,8 @@ const SipsnSchemaFamily *sipsnSchemaFamilyByName( PbString *name )
     const auto token = sipsn::ScanHeaderName( name->chs, name->length );
     if( token.length != name->length || token.number < 0 ) return nullptr;
     const auto canonical = sipsn::headerNames[ token.number ];
-    const auto found     = std::ranges::find( families, canonical, []( const FamilyRecord &family ) {
-        return std::string_view{ family.shown.name };
-    } );
+    const auto found     = std::ranges::find(
+            families, canonical, []( const FamilyRecord &family ) { return std::string_view{ family.shown.name }; } );
     return found == std::end( families ) ? nullptr : &found->shown;
 }
 
@@ -322,13 +325,14 @@ PbObj *sipsn::TryStoreObject( PbObj *given, PbSort *sort )
 }
 
 // The text of a value is kept as it is; that of a value's object, or a token, in its canonical form.
-static PbString *TryStoreItem( PbObj *given, sipsn::Production *item, const sipsn::TextRule *rule, const TypeRecord *type )
+static PbString *TryStoreItem( PbObj *given, sipsn::Production *item, const sipsn::TextRule *rule,
+                               const TypeRecord *type )
 {
     if( rule ) return sipsn::TryStoreText( given, *rule );
     const bool isValue = given->sort == type->sort && sipsnSchemaComplete( given );
     if( !isValue && !IsString( given ) ) return nullptr;
-    pb::Ref text{ isValue ? type->text.encode( given ) : pb::Retain( AsString( given ) ) };
-    pb::Ref value{ type->text.tryDecode( text->chs, text->length ) };
+    pb::Ref    text{ isValue ? type->text.encode( given ) : pb::Retain( AsString( given ) ) };
+    pb::Ref    value{ type->text.tryDecode( text->chs, text->length ) };
     const bool good = value && sipsn::Matches( text.Get(), item ) && sipsnMessageHeaderLineOk( text.Get() );
     return good ? text.Detach() : nullptr;
 }

@@ -1,14 +1,15 @@
-/* The schema: what types and header fields there are, and what their members are, for programs that do not know a type by
- * name. It describes the types of the other headers; the objects are theirs.
+/* The schema: what types and header fields there are, and what their members are, for programs that do not know a type
+ * by name. It describes the types of the other headers; the objects are theirs.
  *
  *     const SipsnSchemaType *type = sipsnSchemaTypeByName( "SipsnVia" );
  *     int64_t                port = sipsnSchemaMemberIndex( type, "port" );
  *     if( !sipsnSchemaTrySetNumber( &via, port, 5060 ) ) ...
  *
- * Descriptions live as long as the library and are never released. An index out of range, an object of a type that has no
- * description, and null where a function does not say otherwise abort. What a caller may have from outside never aborts:
- * names, texts and the values of members are refused. Objects are passed as PbObj and mean what they mean in the functions
- * of their types: results are new references, and a changed object that is shared is replaced by a private copy first. */
+ * Descriptions live as long as the library and are never released. An index out of range, an object of a type that has
+ * no description, and null where a function does not say otherwise abort. What a caller may have from outside never
+ * aborts: names, texts and the values of members are refused. Objects are passed as PbObj and mean what they mean in
+ * the functions of their types: results are new references, and a changed object that is shared is replaced by a
+ * private copy first. */
 #ifndef SIPSN_SCHEMA_H
 #define SIPSN_SCHEMA_H
 
@@ -78,6 +79,10 @@ PB_API const SipsnSchemaType *sipsnSchemaTypeAt( int64_t index );
 PB_API const SipsnSchemaType *sipsnSchemaTypeByName( const char *name );
 PB_API const SipsnSchemaType *sipsnSchemaTypeOf( PbObj *obj );
 
+/* A text in canonical form of a value of the type that has every member; of the type of a header field, a line with its
+ * name. Null for types without text. */
+PB_API const char *sipsnSchemaExample( const SipsnSchemaType *type );
+
 /* All header fields that have a type, in the order of their names. ByName takes any letter case and compact forms, and
  * gives null for a header field without a type. */
 PB_API int64_t                  sipsnSchemaFamiliesLength( void );
@@ -95,15 +100,16 @@ PB_API int64_t sipsnSchemaNumber( PbObj *obj, int64_t member );
 PB_API PbObj  *sipsnSchemaObject( PbObj *obj, int64_t member );
 PB_API bool    sipsnSchemaHas( PbObj *obj, int64_t member );
 
-/* False, with nothing changed, where the member cannot hold that: a number out of range, an object of another type, a text
- * that the member's setter would abort on, any text with CR or LF. A list takes texts and objects of its item type. TryDel
- * is false for a member that is not optional. */
+/* False, with nothing changed, where the member cannot hold that: a number out of range, an object of another type, a
+ * text that the member's setter would abort on, any text with CR or LF. A list takes texts and objects of its item
+ * type. TryDel is false for a member that is not optional. */
 PB_API bool sipsnSchemaTrySetNumber( PbObj **obj, int64_t member, int64_t number );
 PB_API bool sipsnSchemaTrySetObject( PbObj **obj, int64_t member, PbObj *value );
 PB_API bool sipsnSchemaTryDel( PbObj **obj, int64_t member );
 
-/* An object without members, to be filled by the functions above: what every type's own Create demands is absent. Complete
- * says whether it is all there; an object that is not complete may be given to the functions of the schema only. */
+/* An object without members, to be filled by the functions above: what every type's own Create demands is absent.
+ * Complete says whether it is all there; an object that is not complete may be given to the functions of the schema
+ * only. */
 PB_API PbObj *sipsnSchemaCreate( const SipsnSchemaType *type );
 PB_API bool   sipsnSchemaComplete( PbObj *obj );
 
@@ -126,8 +132,8 @@ PB_API SipsnMessageHeader *sipsnSchemaEncodeHeader( const SipsnSchemaFamily *fam
  * null, the index of the character at which it stops to be one; null when it is. */
 PB_API PbString *sipsnSchemaWhyNot( const SipsnSchemaType *type, PbString *text, int64_t *place );
 
-/* The same for a line of a header field by itself; of a list whose items are values, these are looked into, which decoding
- * the header field does not do. */
+/* The same for a line of a header field by itself; of a list whose items are values, these are looked into, which
+ * decoding the header field does not do. */
 PB_API PbString *sipsnSchemaWhyNotLine( const SipsnSchemaFamily *family, PbString *line, int64_t *place );
 
 PB_END_DECLS
