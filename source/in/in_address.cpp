@@ -125,7 +125,8 @@ struct Output
     }
 };
 
-// RFC 5952 section 4.2.3: of the runs of zero groups the longest, and the first of several; one group alone is no run.
+// RFC 5952 section 4.2.3: of the runs of zero groups the longest, and the first of several; one group alone is not a
+// run.
 std::pair< size_t, size_t > LongestZeroRun( const Groups &groups )
 {
     size_t longest = 1;

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int64_t nameLimit  = 253; // RFC 1034 section 3.1: 255 octets, of which two are no characters
+constexpr int64_t nameLimit  = 253; // RFC 1034 section 3.1: 255 octets, two of which are not characters
 constexpr int64_t labelLimit = 63;
 
 using Label = pb::Text;

@@ -10,13 +10,13 @@
 PB_BEGIN_DECLS
 
 /* The URI, or IRI, with the escapes of UTF-8 sequences turned into the characters that an IRI may hold at that place
- * (RFC 3987 section 3.2). Escapes of ASCII, of control characters and of what is no UTF-8 stay. Formatting characters
+ * (RFC 3987 section 3.2). Escapes of ASCII, of control characters and of what is not UTF-8 stay. Formatting characters
  * for bidirectional text, which change the look of what is around them, are always escapes (section 4.1). Null when the
- * text is no valid IRI, as the empty text is none. */
+ * text is not a valid IRI, as the empty text is none. */
 PB_API PbString *iriTryConvertFromUri( PbString *uri );
 
-/* The IRI with each character beyond ASCII as the escapes of its UTF-8 (RFC 3987 section 3.1). Null when it is no valid
- * IRI. */
+/* The IRI with each character beyond ASCII as the escapes of its UTF-8 (RFC 3987 section 3.1). Null when it is not a
+ * valid IRI. */
 PB_API PbString *iriTryConvertToUri( PbString *iri );
 
 PB_END_DECLS

@@ -14,7 +14,7 @@ PB_BEGIN_DECLS
  * character like any other. Another charset aborts. */
 PB_API PbString *pbCharsetBufferToStringWithFlags( int64_t charset, PbBuffer *buffer, int64_t flags );
 
-/* The text as a new buffer. Characters that UTF-8 cannot write (surrogates, what is no code point) become U+FFFD;
+/* The text as a new buffer. Characters that UTF-8 cannot write (surrogates, what is not a code point) become U+FFFD;
  * strict: null. */
 PB_API PbBuffer *pbCharsetStringToBufferWithFlags( int64_t charset, PbString *string, int64_t flags );
 

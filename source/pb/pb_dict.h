@@ -38,7 +38,8 @@ PB_API PbObj    *pbDictValueAt( PbDict *dict, int64_t index );
 PB_API PbVector *pbDictKeysVector( PbDict *dict );
 PB_API PbVector *pbDictValuesVector( PbDict *dict );
 
-/* Set inserts or replaces, and takes the given key object also when it replaces; deleting an absent key is no error. */
+/* Set inserts or replaces, and takes the given key object also when it replaces; deleting an absent key is not an
+ * error. */
 PB_API void pbDictSetStringKey( PbDict **dict, PbString *key, PbObj *value );
 PB_API void pbDictDelStringKey( PbDict **dict, PbString *key );
 PB_API void pbDictClear( PbDict **dict );

@@ -44,7 +44,7 @@ PB_API void pbStoreSetValueCstr( PbStore **store, const char *key, int64_t lengt
 PB_API void pbStoreSetStore( PbStore **store, PbString *key, PbStore *value );
 PB_API void pbStoreSetStoreCstr( PbStore **store, const char *key, int64_t length, PbStore *value );
 
-/* Removes whatever stands under the key; an absent key is no error. */
+/* Removes whatever stands under the key; an absent key is not an error. */
 PB_API void pbStoreDel( PbStore **store, PbString *key );
 PB_API void pbStoreDelCstr( PbStore **store, const char *key, int64_t length );
 

@@ -13,7 +13,7 @@ namespace {
 
 // WidenAscii and NarrowAscii convert ASCII from the start of a text, as far as it goes, and return how many characters
 // that were. The Block functions convert one block, or answer false when it is not all ASCII. What is left of a text
-// that is no multiple of a block long is covered by a block that overlaps the one before.
+// that is not a multiple of a block long is covered by a block that overlaps the one before.
 
 #if defined( __SSE2__ )
 

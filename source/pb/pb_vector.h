@@ -27,7 +27,7 @@ PB_API bool      pbVectorEquals( PbVector *a, PbVector *b );
 PB_API PbVector *pbVectorCreate( void );
 PB_API int64_t   pbVectorLength( PbVector *vector );
 
-/* The element at an index as a new reference; StringAt aborts when it is no string. */
+/* The element at an index as a new reference; StringAt aborts when it is not a string. */
 PB_API PbObj    *pbVectorAt( PbVector *vector, int64_t index );
 PB_API PbString *pbVectorStringAt( PbVector *vector, int64_t index );
 

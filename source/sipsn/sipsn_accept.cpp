@@ -50,19 +50,19 @@ SipsnAccept *sipsnAcceptCreate( void ) { return sipsn::New< SipsnAccept >(); }
 
 PbString *sipsnAcceptMediaType( SipsnAccept *accept ) { return PB_GET( accept, mediaType ); }
 bool      sipsnAcceptHasMediaType( SipsnAccept *accept ) { return PB_HAS( accept, mediaType ); }
-void      sipsnAcceptDelMediaType( SipsnAccept **accept ) { PB_DEL( accept, mediaType ); }
 void      sipsnAcceptSetMediaType( SipsnAccept **accept, PbString *mediaType )
 {
     PB_SET( accept, mediaType, mediaType, sipsnMediaTypeNormalize( mediaType ) );
 }
+void sipsnAcceptDelMediaType( SipsnAccept **accept ) { PB_DEL( accept, mediaType ); }
 
 PbString *sipsnAcceptMediaSubtype( SipsnAccept *accept ) { return PB_GET( accept, mediaSubtype ); }
 bool      sipsnAcceptHasMediaSubtype( SipsnAccept *accept ) { return PB_HAS( accept, mediaSubtype ); }
-void      sipsnAcceptDelMediaSubtype( SipsnAccept **accept ) { PB_DEL( accept, mediaSubtype ); }
 void      sipsnAcceptSetMediaSubtype( SipsnAccept **accept, PbString *mediaSubtype )
 {
     PB_SET( accept, mediaSubtype, mediaSubtype, sipsnMediaSubtypeNormalize( mediaSubtype ) );
 }
+void sipsnAcceptDelMediaSubtype( SipsnAccept **accept ) { PB_DEL( accept, mediaSubtype ); }
 
 SipsnGenericParams *sipsnAcceptGenericParams( SipsnAccept *accept ) { return PB_GET( accept, genericParams ); }
 void                sipsnAcceptSetGenericParams( SipsnAccept **accept, SipsnGenericParams *genericParams )
@@ -72,11 +72,11 @@ void                sipsnAcceptSetGenericParams( SipsnAccept **accept, SipsnGene
 
 int64_t sipsnAcceptQvalue( SipsnAccept *accept ) { return PB_GET( accept, q ); }
 bool    sipsnAcceptHasQvalue( SipsnAccept *accept ) { return PB_HAS( accept, q ); }
-void    sipsnAcceptDelQvalue( SipsnAccept **accept ) { PB_DEL( accept, q ); }
 void    sipsnAcceptSetQvalue( SipsnAccept **accept, int64_t qvalue )
 {
     PB_SET( accept, q, sipsnQvalueOk( qvalue ), qvalue );
 }
+void sipsnAcceptDelQvalue( SipsnAccept **accept ) { PB_DEL( accept, q ); }
 
 // ---- Text form -------------------------------------------------------------------------------------
 

@@ -65,11 +65,11 @@ void sipsnAcceptEncodingSetGenericParams( SipsnAcceptEncoding **acceptEncoding, 
 
 int64_t sipsnAcceptEncodingQvalue( SipsnAcceptEncoding *acceptEncoding ) { return PB_GET( acceptEncoding, q ); }
 bool    sipsnAcceptEncodingHasQvalue( SipsnAcceptEncoding *acceptEncoding ) { return PB_HAS( acceptEncoding, q ); }
-void    sipsnAcceptEncodingDelQvalue( SipsnAcceptEncoding **acceptEncoding ) { PB_DEL( acceptEncoding, q ); }
 void    sipsnAcceptEncodingSetQvalue( SipsnAcceptEncoding **acceptEncoding, int64_t qvalue )
 {
     PB_SET( acceptEncoding, q, sipsnQvalueOk( qvalue ), qvalue );
 }
+void sipsnAcceptEncodingDelQvalue( SipsnAcceptEncoding **acceptEncoding ) { PB_DEL( acceptEncoding, q ); }
 
 // ---- Text form -------------------------------------------------------------------------------------
 

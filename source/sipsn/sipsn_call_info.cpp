@@ -50,11 +50,11 @@ void      sipsnCallInfoSetIri( SipsnCallInfo **callInfo, PbString *iri )
 
 PbString *sipsnCallInfoPurpose( SipsnCallInfo *callInfo ) { return PB_GET( callInfo, purpose ); }
 bool      sipsnCallInfoHasPurpose( SipsnCallInfo *callInfo ) { return PB_HAS( callInfo, purpose ); }
-void      sipsnCallInfoDelPurpose( SipsnCallInfo **callInfo ) { PB_DEL( callInfo, purpose ); }
 void      sipsnCallInfoSetPurpose( SipsnCallInfo **callInfo, PbString *purpose )
 {
     PB_SET( callInfo, purpose, purpose, sipsnPurposeNormalize( purpose ) );
 }
+void sipsnCallInfoDelPurpose( SipsnCallInfo **callInfo ) { PB_DEL( callInfo, purpose ); }
 
 SipsnGenericParams *sipsnCallInfoGenericParams( SipsnCallInfo *callInfo ) { return PB_GET( callInfo, genericParams ); }
 void                sipsnCallInfoSetGenericParams( SipsnCallInfo **callInfo, SipsnGenericParams *genericParams )

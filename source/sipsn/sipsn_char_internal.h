@@ -14,7 +14,7 @@ PB_API bool sipsn___CharIsAlpha( PbChar ch );
 PB_API bool sipsn___CharIsDigit( PbChar ch );
 PB_API bool sipsn___CharIsAlphanum( PbChar ch );
 
-// HEXDIG in either case. Unless it is null, *value becomes the digit's value, 0 to 15, or -1 for what is no digit.
+// HEXDIG in either case. Unless it is null, *value becomes the digit's value, 0 to 15, or -1 for what is not a digit.
 PB_API bool sipsn___CharIsHexdig( PbChar ch, int64_t *value );
 
 // WSP: space and tab. CR and LF are not among them.

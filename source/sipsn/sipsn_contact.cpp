@@ -64,11 +64,11 @@ void      sipsnContactSetIri( SipsnContact **contact, PbString *iri )
 
 PbString *sipsnContactDisplayName( SipsnContact *contact ) { return PB_GET( contact, displayName ); }
 bool      sipsnContactHasDisplayName( SipsnContact *contact ) { return PB_HAS( contact, displayName ); }
-void      sipsnContactDelDisplayName( SipsnContact **contact ) { PB_DEL( contact, displayName ); }
 void      sipsnContactSetDisplayName( SipsnContact **contact, PbString *displayName )
 {
     PB_SET( contact, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnContactDelDisplayName( SipsnContact **contact ) { PB_DEL( contact, displayName ); }
 
 SipsnGenericParams *sipsnContactGenericParams( SipsnContact *contact ) { return PB_GET( contact, genericParams ); }
 void                sipsnContactSetGenericParams( SipsnContact **contact, SipsnGenericParams *genericParams )
@@ -78,51 +78,51 @@ void                sipsnContactSetGenericParams( SipsnContact **contact, SipsnG
 
 int64_t sipsnContactQvalue( SipsnContact *contact ) { return PB_GET( contact, qvalue ); }
 bool    sipsnContactHasQvalue( SipsnContact *contact ) { return PB_HAS( contact, qvalue ); }
-void    sipsnContactDelQvalue( SipsnContact **contact ) { PB_DEL( contact, qvalue ); }
 void    sipsnContactSetQvalue( SipsnContact **contact, int64_t qvalue )
 {
     PB_SET( contact, qvalue, sipsnQvalueOk( qvalue ), qvalue );
 }
+void sipsnContactDelQvalue( SipsnContact **contact ) { PB_DEL( contact, qvalue ); }
 
 int64_t sipsnContactExpires( SipsnContact *contact ) { return PB_GET( contact, expires ); }
 bool    sipsnContactHasExpires( SipsnContact *contact ) { return PB_HAS( contact, expires ); }
-void    sipsnContactDelExpires( SipsnContact **contact ) { PB_DEL( contact, expires ); }
 void    sipsnContactSetExpires( SipsnContact **contact, int64_t deltaSeconds )
 {
     PB_SET( contact, expires, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
+void sipsnContactDelExpires( SipsnContact **contact ) { PB_DEL( contact, expires ); }
 
 PbString *sipsnContactRc( SipsnContact *contact ) { return PB_GET( contact, rc ); }
 bool      sipsnContactHasRc( SipsnContact *contact ) { return PB_HAS( contact, rc ); }
-void      sipsnContactDelRc( SipsnContact **contact ) { PB_DEL( contact, rc ); }
 void      sipsnContactSetRc( SipsnContact **contact, PbString *rc )
 {
     PB_SET( contact, rc, sipsnHistoryInfoIndexOk( rc ), pb::Retain( rc ) );
 }
+void sipsnContactDelRc( SipsnContact **contact ) { PB_DEL( contact, rc ); }
 
 PbString *sipsnContactMp( SipsnContact *contact ) { return PB_GET( contact, mp ); }
 bool      sipsnContactHasMp( SipsnContact *contact ) { return PB_HAS( contact, mp ); }
-void      sipsnContactDelMp( SipsnContact **contact ) { PB_DEL( contact, mp ); }
 void      sipsnContactSetMp( SipsnContact **contact, PbString *mp )
 {
     PB_SET( contact, mp, sipsnHistoryInfoIndexOk( mp ), pb::Retain( mp ) );
 }
+void sipsnContactDelMp( SipsnContact **contact ) { PB_DEL( contact, mp ); }
 
 PbString *sipsnContactNp( SipsnContact *contact ) { return PB_GET( contact, np ); }
 bool      sipsnContactHasNp( SipsnContact *contact ) { return PB_HAS( contact, np ); }
-void      sipsnContactDelNp( SipsnContact **contact ) { PB_DEL( contact, np ); }
 void      sipsnContactSetNp( SipsnContact **contact, PbString *np )
 {
     PB_SET( contact, np, sipsnHistoryInfoIndexOk( np ), pb::Retain( np ) );
 }
+void sipsnContactDelNp( SipsnContact **contact ) { PB_DEL( contact, np ); }
 
 PbString *sipsnContactSipInstance( SipsnContact *contact ) { return PB_GET( contact, sipInstance ); }
 bool      sipsnContactHasSipInstance( SipsnContact *contact ) { return PB_HAS( contact, sipInstance ); }
-void      sipsnContactDelSipInstance( SipsnContact **contact ) { PB_DEL( contact, sipInstance ); }
 void      sipsnContactSetSipInstance( SipsnContact **contact, PbString *sipInstance )
 {
     PB_SET( contact, sipInstance, sipsnSipInstanceOk( sipInstance ), pb::Retain( sipInstance ) );
 }
+void sipsnContactDelSipInstance( SipsnContact **contact ) { PB_DEL( contact, sipInstance ); }
 
 bool sipsnContactSipSrc( SipsnContact *contact ) { return PB_GET( contact, sipSrc ); }
 void sipsnContactSetSipSrc( SipsnContact **contact, bool sipSrc ) { PB_PUT( contact, sipSrc, sipSrc ); }

@@ -9,10 +9,10 @@ PB_BEGIN_DECLS
 /* Whether the number is 0 to 2147483647. */
 PB_API bool sipsnCseqOk( int64_t cseq );
 
-/* Whether the number after this one is valid too. What is no sequence number aborts. */
+/* Whether the number after this one is valid too. What is not a sequence number aborts. */
 PB_API bool sipsnCseqIncrementOk( int64_t cseq );
 
-/* Whether fewer than 100 increments are left, so that numbering had better begin anew. What is no sequence number
+/* Whether fewer than 100 increments are left, so that numbering had better begin anew. What is not a sequence number
  * aborts. */
 PB_API bool sipsnCseqScarce( int64_t cseq );
 

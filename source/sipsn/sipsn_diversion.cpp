@@ -107,51 +107,51 @@ void      sipsnDiversionSetIri( SipsnDiversion **diversion, PbString *iri )
 
 PbString *sipsnDiversionDisplayName( SipsnDiversion *diversion ) { return PB_GET( diversion, displayName ); }
 bool      sipsnDiversionHasDisplayName( SipsnDiversion *diversion ) { return PB_HAS( diversion, displayName ); }
-void      sipsnDiversionDelDisplayName( SipsnDiversion **diversion ) { PB_DEL( diversion, displayName ); }
 void      sipsnDiversionSetDisplayName( SipsnDiversion **diversion, PbString *displayName )
 {
     PB_SET( diversion, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnDiversionDelDisplayName( SipsnDiversion **diversion ) { PB_DEL( diversion, displayName ); }
 
 PbString *sipsnDiversionReason( SipsnDiversion *diversion ) { return PB_GET( diversion, reason ); }
 bool      sipsnDiversionHasReason( SipsnDiversion *diversion ) { return PB_HAS( diversion, reason ); }
-void      sipsnDiversionDelReason( SipsnDiversion **diversion ) { PB_DEL( diversion, reason ); }
 void      sipsnDiversionSetReason( SipsnDiversion **diversion, PbString *diversionReason )
 {
     PB_SET( diversion, reason, diversionReason, sipsnDiversionReasonNormalize( diversionReason ) );
 }
+void sipsnDiversionDelReason( SipsnDiversion **diversion ) { PB_DEL( diversion, reason ); }
 
 int64_t sipsnDiversionCounter( SipsnDiversion *diversion ) { return PB_GET( diversion, counter ); }
 bool    sipsnDiversionHasCounter( SipsnDiversion *diversion ) { return PB_HAS( diversion, counter ); }
-void    sipsnDiversionDelCounter( SipsnDiversion **diversion ) { PB_DEL( diversion, counter ); }
 void    sipsnDiversionSetCounter( SipsnDiversion **diversion, int64_t diversionCounter )
 {
     PB_SET( diversion, counter, sipsnDiversionCounterOk( diversionCounter ), diversionCounter );
 }
+void sipsnDiversionDelCounter( SipsnDiversion **diversion ) { PB_DEL( diversion, counter ); }
 
 int64_t sipsnDiversionLimit( SipsnDiversion *diversion ) { return PB_GET( diversion, limit ); }
 bool    sipsnDiversionHasLimit( SipsnDiversion *diversion ) { return PB_HAS( diversion, limit ); }
-void    sipsnDiversionDelLimit( SipsnDiversion **diversion ) { PB_DEL( diversion, limit ); }
 void    sipsnDiversionSetLimit( SipsnDiversion **diversion, int64_t diversionLimit )
 {
     PB_SET( diversion, limit, sipsnDiversionLimitOk( diversionLimit ), diversionLimit );
 }
+void sipsnDiversionDelLimit( SipsnDiversion **diversion ) { PB_DEL( diversion, limit ); }
 
 PbString *sipsnDiversionPrivacy( SipsnDiversion *diversion ) { return PB_GET( diversion, privacy ); }
 bool      sipsnDiversionHasPrivacy( SipsnDiversion *diversion ) { return PB_HAS( diversion, privacy ); }
-void      sipsnDiversionDelPrivacy( SipsnDiversion **diversion ) { PB_DEL( diversion, privacy ); }
 void      sipsnDiversionSetPrivacy( SipsnDiversion **diversion, PbString *diversionPrivacy )
 {
     PB_SET( diversion, privacy, diversionPrivacy, sipsnDiversionPrivacyNormalize( diversionPrivacy ) );
 }
+void sipsnDiversionDelPrivacy( SipsnDiversion **diversion ) { PB_DEL( diversion, privacy ); }
 
 PbString *sipsnDiversionScreen( SipsnDiversion *diversion ) { return PB_GET( diversion, screen ); }
 bool      sipsnDiversionHasScreen( SipsnDiversion *diversion ) { return PB_HAS( diversion, screen ); }
-void      sipsnDiversionDelScreen( SipsnDiversion **diversion ) { PB_DEL( diversion, screen ); }
 void      sipsnDiversionSetScreen( SipsnDiversion **diversion, PbString *diversionScreen )
 {
     PB_SET( diversion, screen, diversionScreen, sipsnDiversionScreenNormalize( diversionScreen ) );
 }
+void sipsnDiversionDelScreen( SipsnDiversion **diversion ) { PB_DEL( diversion, screen ); }
 
 SipsnGenericParams *sipsnDiversionGenericParams( SipsnDiversion *diversion )
 {

@@ -15,7 +15,7 @@
  *     generic params   every other parameter; never absent, may be empty
  *
  * Reason, privacy and screen hold the content of what was a token or a quoted string. Setters take any text for them
- * but null, and store it in lower case; it is written as it is stored, never quoted. So a content that is no token
+ * but null, and store it in lower case; it is written as it is stored, never quoted. So a content that is not a token
  * makes a text that need not decode to the same value.
  *
  * Without angle brackets a ";" ends the address. They are always written. A decoded parameter whose value does not fit

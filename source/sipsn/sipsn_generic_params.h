@@ -80,7 +80,7 @@ PB_API void sipsnGenericParamsSetParamValueCstr( SipsnGenericParams **params, co
 PB_API void sipsnGenericParamsSetParamValueWcstr( SipsnGenericParams **params, const wchar_t *name, int64_t nameLength,
                                                   int64_t type, PbString *value );
 
-/* An absent name is no error. */
+/* An absent name is not an error. */
 PB_API void sipsnGenericParamsDelParam( SipsnGenericParams **params, PbString *name );
 PB_API void sipsnGenericParamsDelParamCstr( SipsnGenericParams **params, const char *name, int64_t nameLength );
 PB_API void sipsnGenericParamsDelParamWcstr( SipsnGenericParams **params, const wchar_t *name, int64_t nameLength );

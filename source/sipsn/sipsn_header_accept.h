@@ -2,8 +2,8 @@
  *
  * Example: Accept: application/sdp;q=0.7;level=1
  *
- * Each value is kept as its text and decoded when TryDecodeAcceptAt asks for it, which gives null when it is no
- * accept-range. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeAcceptAt asks for it, which gives null when it is not an
+ * accept-range. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ACCEPT_H
 #define SIPSN_HEADER_ACCEPT_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Accept-Encoding: gzip;q=0.5;level=9
  *
- * Each value is kept as its text and decoded when TryDecodeAcceptEncodingAt asks for it, which gives null when it is no
- * encoding. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeAcceptEncodingAt asks for it, which gives null when it is
+ * not an encoding. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ACCEPT_ENCODING_H
 #define SIPSN_HEADER_ACCEPT_ENCODING_H
 

@@ -3,7 +3,7 @@
  *
  * Example: Accept-Resource-Priority: dsn.flash-override
  *
- * R-values are kept as written. A header field without lines is no header. Each is encoded as a line of its own. An
+ * R-values are kept as written. A header field without lines does not decode. Each is encoded as a line of its own. An
  * invalid one aborts. */
 #ifndef SIPSN_HEADER_ACCEPT_RESOURCE_PRIORITY_H
 #define SIPSN_HEADER_ACCEPT_RESOURCE_PRIORITY_H

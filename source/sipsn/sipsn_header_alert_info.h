@@ -2,8 +2,8 @@
  *
  * Example: Alert-Info: <http://www.example.com/sounds/moo.wav>;appearance=2
  *
- * Each value is kept as its text and decoded when TryDecodeAlertInfoAt asks for it, which gives null when it is no
- * alert-param. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeAlertInfoAt asks for it, which gives null when it is not an
+ * alert-param. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ALERT_INFO_H
 #define SIPSN_HEADER_ALERT_INFO_H
 

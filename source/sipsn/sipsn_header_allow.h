@@ -3,7 +3,7 @@
  * Example: Allow: ACK,BYE,CANCEL,INVITE,OPTIONS
  *
  * Methods are kept as written, and methods in different letter case are different. All are encoded into one line. A
- * header field without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to the
+ * header field without lines does not decode. The Cstr and Wcstr forms take text with its length, -1 meaning up to the
  * terminating zero. */
 #ifndef SIPSN_HEADER_ALLOW_H
 #define SIPSN_HEADER_ALLOW_H

@@ -3,8 +3,8 @@
  * Example: Allow-Events: dialog,presence
  *
  * Event types are kept as written, and event types in different letter case are different. All are encoded into one
- * line. A header field without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to
- * the terminating zero. */
+ * line. A header field without lines does not decode. The Cstr and Wcstr forms take text with its length, -1 meaning up
+ * to the terminating zero. */
 #ifndef SIPSN_HEADER_ALLOW_EVENTS_H
 #define SIPSN_HEADER_ALLOW_EVENTS_H
 

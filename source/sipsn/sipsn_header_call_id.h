@@ -6,8 +6,8 @@
  *
  *     call id   kept as written; never absent
  *
- * The last line of the header field counts, and no line is no header. The getter returns a new reference. SetCallId
- * replaces *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The getter returns a new reference.
+ * SetCallId replaces *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_CALL_ID_H
 #define SIPSN_HEADER_CALL_ID_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Call-Info: <http://www.example.com/alice/photo.jpg>;purpose=icon;version=2
  *
- * Each value is kept as its text and decoded when TryDecodeCallInfoAt asks for it, which gives null when it is no info.
- * A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeCallInfoAt asks for it, which gives null when it is not an
+ * info. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_CALL_INFO_H
 #define SIPSN_HEADER_CALL_INFO_H
 

@@ -4,8 +4,8 @@
  *
  *     star form   whether "*" stands for all contacts (RFC 3261 section 10.2.2); false unless set
  *
- * Each value is kept as its text and decoded when TryDecodeContactAt asks for it, which gives null when it is no
- * contact-param. A header field without lines is no header. Each value is encoded as a line of its own.
+ * Each value is kept as its text and decoded when TryDecodeContactAt asks for it, which gives null when it is not a
+ * contact-param. A header field without lines does not decode. Each value is encoded as a line of its own.
  *
  * A first line that begins with "*" is the star form, and nothing may follow it, not even on a later line. The star
  * form is encoded as long as there are no contacts: adding one does not end it, but hides it. */

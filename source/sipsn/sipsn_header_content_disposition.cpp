@@ -69,11 +69,11 @@ PbString *sipsnHeaderContentDispositionHandling( SipsnHeaderContentDisposition *
 }
 
 bool sipsnHeaderContentDispositionHasHandling( SipsnHeaderContentDisposition *hdr ) { return PB_HAS( hdr, handling ); }
-void sipsnHeaderContentDispositionDelHandling( SipsnHeaderContentDisposition **hdr ) { PB_DEL( hdr, handling ); }
 void sipsnHeaderContentDispositionSetHandling( SipsnHeaderContentDisposition **hdr, PbString *handling )
 {
     PB_PUT( hdr, handling, sipsnHandlingNormalize( handling ) );
 }
+void sipsnHeaderContentDispositionDelHandling( SipsnHeaderContentDisposition **hdr ) { PB_DEL( hdr, handling ); }
 
 SipsnGenericParams *sipsnHeaderContentDispositionGenericParams( SipsnHeaderContentDisposition *hdr )
 {

@@ -8,9 +8,9 @@
  *     handling           a token, kept in lower case; optional
  *     generic params     every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. Of several handlings the last counts; one that is
- * no token is a generic parameter. Getters return new references, or null when the member is absent. Setters and
- * deleters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. Of several handlings the last
+ * counts; one that is no token is a generic parameter. Getters return new references, or null when the member is
+ * absent. Setters and deleters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_CONTENT_DISPOSITION_H
 #define SIPSN_HEADER_CONTENT_DISPOSITION_H
 

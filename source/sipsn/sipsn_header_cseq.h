@@ -7,9 +7,9 @@
  *     cseq     0 to 2147483647; never absent
  *     method   case kept; never absent
  *
- * The last line of the header field counts, and no line is no header. Getters return new references. Setters replace
- * *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr forms take text with
- * its length, -1 meaning up to the terminating zero. */
+ * Only the last line of the header field counts; without lines it does not decode. Getters return new references.
+ * Setters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr forms
+ * take text with its length, -1 meaning up to the terminating zero. */
 #ifndef SIPSN_HEADER_CSEQ_H
 #define SIPSN_HEADER_CSEQ_H
 

@@ -9,8 +9,8 @@
  * Exactly this form decodes, in this letter case, and only a time that pbTimeValid takes on the weekday that it fell
  * on. A caller's time that is not valid is written without a weekday, and a month beyond 1 to 12 without its name.
  *
- * The last line of the header field counts, and no line is no header. The getter returns a new reference. The setter
- * replaces *hdr by a private copy when it is shared. A null argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The getter returns a new reference.
+ * The setter replaces *hdr by a private copy when it is shared. A null argument aborts. */
 #ifndef SIPSN_HEADER_DATE_H
 #define SIPSN_HEADER_DATE_H
 

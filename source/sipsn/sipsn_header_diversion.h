@@ -3,7 +3,7 @@
  * Example: Diversion: "Bob" <sip:bob@example.com>;reason=user-busy;counter=1;limit=5;privacy=full;screen=yes;lang=en
  *
  * Each value is kept as its text and decoded when TryDecodeDiversionAt asks for it, which gives null when it is none. A
- * header field without lines is no header. Each value is encoded as a line of its own. */
+ * header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_DIVERSION_H
 #define SIPSN_HEADER_DIVERSION_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Error-Info: <sip:not-in-service@announce.example.com>;lang=en
  *
- * Each value is kept as its text and decoded when TryDecodeErrorInfoAt asks for it, which gives null when it is no
- * error-uri. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeErrorInfoAt asks for it, which gives null when it is not an
+ * error-uri. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ERROR_INFO_H
 #define SIPSN_HEADER_ERROR_INFO_H
 

@@ -65,11 +65,11 @@ void sipsnHeaderEventSetEventTypeWcstr( SipsnHeaderEvent **hdr, const wchar_t *e
 
 PbString *sipsnHeaderEventId( SipsnHeaderEvent *hdr ) { return PB_GET( hdr, id ); }
 bool      sipsnHeaderEventHasId( SipsnHeaderEvent *hdr ) { return PB_HAS( hdr, id ); }
-void      sipsnHeaderEventDelId( SipsnHeaderEvent **hdr ) { PB_DEL( hdr, id ); }
 void      sipsnHeaderEventSetId( SipsnHeaderEvent **hdr, PbString *token )
 {
     PB_SET( hdr, id, sipsnTokenOk( token ), pb::Retain( token ) );
 }
+void sipsnHeaderEventDelId( SipsnHeaderEvent **hdr ) { PB_DEL( hdr, id ); }
 
 SipsnGenericParams *sipsnHeaderEventGenericParams( SipsnHeaderEvent *hdr ) { return PB_GET( hdr, genericParams ); }
 void                sipsnHeaderEventSetGenericParams( SipsnHeaderEvent **hdr, SipsnGenericParams *genericParams )

@@ -9,10 +9,10 @@
  *     id               a token, kept as written; optional
  *     generic params   every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. Of several ids the last counts; one that is no
- * token is a generic parameter. Getters return new references, or null when the member is absent. Setters and deleters
- * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr forms take
- * text with its length, -1 meaning up to the terminating zero. */
+ * Only the last line of the header field counts; without lines it does not decode. Of several ids the last counts; one
+ * that is not a token is a generic parameter. Getters return new references, or null when the member is absent. Setters
+ * and deleters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. The Cstr and Wcstr
+ * forms take text with its length, -1 meaning up to the terminating zero. */
 #ifndef SIPSN_HEADER_EVENT_H
 #define SIPSN_HEADER_EVENT_H
 

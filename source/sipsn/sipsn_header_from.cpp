@@ -32,27 +32,27 @@ void      sipsnHeaderFromSetIri( SipsnHeaderFrom **hdr, PbString *iri )
 
 PbString *sipsnHeaderFromDisplayName( SipsnHeaderFrom *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderFromHasDisplayName( SipsnHeaderFrom *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderFromDelDisplayName( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderFromSetDisplayName( SipsnHeaderFrom **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderFromDelDisplayName( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, displayName ); }
 
 PbString *sipsnHeaderFromTag( SipsnHeaderFrom *hdr ) { return PB_GET( hdr, tag ); }
 bool      sipsnHeaderFromHasTag( SipsnHeaderFrom *hdr ) { return PB_HAS( hdr, tag ); }
-void      sipsnHeaderFromDelTag( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, tag ); }
 void      sipsnHeaderFromSetTag( SipsnHeaderFrom **hdr, PbString *tag )
 {
     PB_SET( hdr, tag, sipsnTagOk( tag ), pb::Retain( tag ) );
 }
+void sipsnHeaderFromDelTag( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, tag ); }
 
 PbString *sipsnHeaderFromEpid( SipsnHeaderFrom *hdr ) { return PB_GET( hdr, epid ); }
 bool      sipsnHeaderFromHasEpid( SipsnHeaderFrom *hdr ) { return PB_HAS( hdr, epid ); }
-void      sipsnHeaderFromDelEpid( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, epid ); }
 void      sipsnHeaderFromSetEpid( SipsnHeaderFrom **hdr, PbString *epid )
 {
     PB_SET( hdr, epid, sipsnEpidOk( epid ), pb::Retain( epid ) );
 }
+void sipsnHeaderFromDelEpid( SipsnHeaderFrom **hdr ) { PB_DEL( hdr, epid ); }
 
 SipsnGenericParams *sipsnHeaderFromGenericParams( SipsnHeaderFrom *hdr ) { return PB_GET( hdr, genericParams ); }
 void                sipsnHeaderFromSetGenericParams( SipsnHeaderFrom **hdr, SipsnGenericParams *genericParams )

@@ -10,10 +10,10 @@
  *     epid            1 to 16 token characters, kept as written; optional
  *     generic params  every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. The parameters of a bare address are the header
- * field's. The address is always written in angle brackets. On the wire a member that is present takes the place of a
- * generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
- * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The parameters of a bare address are
+ * the header field's. The address is always written in angle brackets. On the wire a member that is present takes the
+ * place of a generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and
+ * deleters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_FROM_H
 #define SIPSN_HEADER_FROM_H
 

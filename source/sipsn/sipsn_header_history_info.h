@@ -2,8 +2,8 @@
  *
  * Example: History-Info: "Bob" <sip:bob@192.0.2.4>;index=1.1;rc=1
  *
- * Each value is kept as its text and decoded when TryDecodeHistoryInfoAt asks for it, which gives null when it is no
- * hi-entry. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeHistoryInfoAt asks for it, which gives null when it is not a
+ * hi-entry. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_HISTORY_INFO_H
 #define SIPSN_HEADER_HISTORY_INFO_H
 

@@ -3,7 +3,7 @@
  * Example: In-Reply-To: 17320@sip.example.com,70710@sip.example.com
  *
  * Call-IDs are kept as written, and Call-IDs in different letter case are different. All are encoded into one line. A
- * header field without lines is no header. */
+ * header field without lines does not decode. */
 #ifndef SIPSN_HEADER_IN_REPLY_TO_H
 #define SIPSN_HEADER_IN_REPLY_TO_H
 

@@ -6,8 +6,8 @@
  *
  *     max forwards   0 to 255; never absent
  *
- * The last line of the header field counts, and no line is no header. The setter replaces *hdr by a private copy when
- * it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The setter replaces *hdr by a
+ * private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_MAX_FORWARDS_H
 #define SIPSN_HEADER_MAX_FORWARDS_H
 

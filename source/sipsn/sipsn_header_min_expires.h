@@ -7,8 +7,8 @@
  *
  *     delta seconds   seconds, 0 or above; never absent
  *
- * The last line of the header field counts, and no line is no header. The setter replaces *hdr by a private copy when
- * it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The setter replaces *hdr by a
+ * private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_MIN_EXPIRES_H
 #define SIPSN_HEADER_MIN_EXPIRES_H
 

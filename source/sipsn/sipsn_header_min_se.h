@@ -7,9 +7,9 @@
  *     delta seconds    seconds, 0 or above; never absent
  *     generic params   all parameters; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. Text behind the last parameter that no ";" begins
- * is ignored. Getters return new references. Setters replace *hdr by a private copy when it is shared. A null or
- * invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. Text behind the last parameter that
+ * no ";" begins is ignored. Getters return new references. Setters replace *hdr by a private copy when it is shared. A
+ * null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_MIN_SE_H
 #define SIPSN_HEADER_MIN_SE_H
 

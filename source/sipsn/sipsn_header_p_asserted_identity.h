@@ -3,8 +3,8 @@
  *
  * Example: P-Asserted-Identity: "Alice" <sip:alice@example.com>
  *
- * Each value is kept as its text and decoded when TryDecodeIdentityValueAt asks for it, which gives null when it is no
- * PAssertedID-value. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeIdentityValueAt asks for it, which gives null when it is not
+ * a PAssertedID-value. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_P_ASSERTED_IDENTITY_H
 #define SIPSN_HEADER_P_ASSERTED_IDENTITY_H
 

@@ -43,11 +43,11 @@ void      sipsnHeaderPCalledPartyIdSetIri( SipsnHeaderPCalledPartyId **hdr, PbSt
 
 PbString *sipsnHeaderPCalledPartyIdDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_GET( hdr, displayName ); }
 bool sipsnHeaderPCalledPartyIdHasDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_HAS( hdr, displayName ); }
-void sipsnHeaderPCalledPartyIdDelDisplayName( SipsnHeaderPCalledPartyId **hdr ) { PB_DEL( hdr, displayName ); }
 void sipsnHeaderPCalledPartyIdSetDisplayName( SipsnHeaderPCalledPartyId **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderPCalledPartyIdDelDisplayName( SipsnHeaderPCalledPartyId **hdr ) { PB_DEL( hdr, displayName ); }
 
 SipsnGenericParams *sipsnHeaderPCalledPartyIdGenericParams( SipsnHeaderPCalledPartyId *hdr )
 {

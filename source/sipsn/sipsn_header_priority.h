@@ -8,8 +8,8 @@
  *
  * Four values have functions of their own: "emergency", "urgent", "normal" and "non-urgent". Others are as good.
  *
- * The last line of the header field counts, and no line is no header. The getter returns a new reference. Setters
- * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The getter returns a new reference.
+ * Setters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_PRIORITY_H
 #define SIPSN_HEADER_PRIORITY_H
 

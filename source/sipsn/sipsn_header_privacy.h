@@ -3,8 +3,8 @@
  * Example: Privacy: critical;header;id
  *
  * Priv-values are kept in lower case, in whatever case they are given. All are encoded into one line, separated by
- * semicolons, as they are read. A header field without lines is no header. The Cstr and Wcstr forms take text with its
- * length, -1 meaning up to the terminating zero. */
+ * semicolons, as they are read. A header field without lines does not decode. The Cstr and Wcstr forms take text with
+ * its length, -1 meaning up to the terminating zero. */
 #ifndef SIPSN_HEADER_PRIVACY_H
 #define SIPSN_HEADER_PRIVACY_H
 

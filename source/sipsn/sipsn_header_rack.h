@@ -9,8 +9,8 @@
  *     cseq           0 to 2147483647, from the CSeq of the response; never absent
  *     method         from the same, case kept; never absent
  *
- * The last line of the header field counts, and no line is no header. Getters return new references. Setters replace
- * *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. Getters return new references.
+ * Setters replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_RACK_H
 #define SIPSN_HEADER_RACK_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Reason: Q.850;cause=16;text="Normal call clearing";location=LN
  *
- * Each value is kept as its text and decoded when TryDecodeReasonAt asks for it, which gives null when it is no
- * reason-value. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeReasonAt asks for it, which gives null when it is not a
+ * reason-value. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_REASON_H
 #define SIPSN_HEADER_REASON_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Record-Route: <sip:p1.example.com;lr>;lang=en
  *
- * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is no
- * rec-route. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is not a
+ * rec-route. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_RECORD_ROUTE_H
 #define SIPSN_HEADER_RECORD_ROUTE_H
 

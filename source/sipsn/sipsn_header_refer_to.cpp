@@ -45,11 +45,11 @@ void      sipsnHeaderReferToSetIri( SipsnHeaderReferTo **hdr, PbString *iri )
 
 PbString *sipsnHeaderReferToDisplayName( SipsnHeaderReferTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReferToHasDisplayName( SipsnHeaderReferTo *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderReferToDelDisplayName( SipsnHeaderReferTo **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderReferToSetDisplayName( SipsnHeaderReferTo **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderReferToDelDisplayName( SipsnHeaderReferTo **hdr ) { PB_DEL( hdr, displayName ); }
 
 SipsnGenericParams *sipsnHeaderReferToGenericParams( SipsnHeaderReferTo *hdr ) { return PB_GET( hdr, genericParams ); }
 void                sipsnHeaderReferToSetGenericParams( SipsnHeaderReferTo **hdr, SipsnGenericParams *genericParams )

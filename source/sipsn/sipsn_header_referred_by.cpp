@@ -52,19 +52,19 @@ void      sipsnHeaderReferredBySetIri( SipsnHeaderReferredBy **hdr, PbString *ir
 
 PbString *sipsnHeaderReferredByDisplayName( SipsnHeaderReferredBy *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReferredByHasDisplayName( SipsnHeaderReferredBy *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderReferredByDelDisplayName( SipsnHeaderReferredBy **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderReferredBySetDisplayName( SipsnHeaderReferredBy **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderReferredByDelDisplayName( SipsnHeaderReferredBy **hdr ) { PB_DEL( hdr, displayName ); }
 
 PbString *sipsnHeaderReferredByCid( SipsnHeaderReferredBy *hdr ) { return PB_GET( hdr, cid ); }
 bool      sipsnHeaderReferredByHasCid( SipsnHeaderReferredBy *hdr ) { return PB_HAS( hdr, cid ); }
-void      sipsnHeaderReferredByDelCid( SipsnHeaderReferredBy **hdr ) { PB_DEL( hdr, cid ); }
 void      sipsnHeaderReferredBySetCid( SipsnHeaderReferredBy **hdr, PbString *cid )
 {
     PB_SET( hdr, cid, sipsnSipCleanMsgIdOk( cid ), pb::Retain( cid ) );
 }
+void sipsnHeaderReferredByDelCid( SipsnHeaderReferredBy **hdr ) { PB_DEL( hdr, cid ); }
 
 SipsnGenericParams *sipsnHeaderReferredByGenericParams( SipsnHeaderReferredBy *hdr )
 {

@@ -9,10 +9,10 @@
  *     cid             a message identifier, without the quotes; optional
  *     generic params  every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. The address is always written in angle brackets.
- * On the wire a member that is present takes the place of a generic parameter of its name. Getters return a new
- * reference, null when the member is absent. Setters and deleters replace *hdr by a private copy when it is shared. A
- * null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The address is always written in
+ * angle brackets. On the wire a member that is present takes the place of a generic parameter of its name. Getters
+ * return a new reference, null when the member is absent. Setters and deleters replace *hdr by a private copy when it
+ * is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_REFERRED_BY_H
 #define SIPSN_HEADER_REFERRED_BY_H
 

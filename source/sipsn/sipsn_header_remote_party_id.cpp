@@ -43,11 +43,11 @@ void      sipsnHeaderRemotePartyIdSetIri( SipsnHeaderRemotePartyId **hdr, PbStri
 
 PbString *sipsnHeaderRemotePartyIdDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderRemotePartyIdHasDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderRemotePartyIdDelDisplayName( SipsnHeaderRemotePartyId **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderRemotePartyIdSetDisplayName( SipsnHeaderRemotePartyId **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderRemotePartyIdDelDisplayName( SipsnHeaderRemotePartyId **hdr ) { PB_DEL( hdr, displayName ); }
 
 SipsnGenericParams *sipsnHeaderRemotePartyIdGenericParams( SipsnHeaderRemotePartyId *hdr )
 {

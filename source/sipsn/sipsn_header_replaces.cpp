@@ -50,19 +50,19 @@ void      sipsnHeaderReplacesSetCallId( SipsnHeaderReplaces **hdr, PbString *cal
 
 PbString *sipsnHeaderReplacesToTag( SipsnHeaderReplaces *hdr ) { return PB_GET( hdr, toTag ); }
 bool      sipsnHeaderReplacesHasToTag( SipsnHeaderReplaces *hdr ) { return PB_HAS( hdr, toTag ); }
-void      sipsnHeaderReplacesDelToTag( SipsnHeaderReplaces **hdr ) { PB_DEL( hdr, toTag ); }
 void      sipsnHeaderReplacesSetToTag( SipsnHeaderReplaces **hdr, PbString *tag )
 {
     PB_SET( hdr, toTag, sipsnTagOk( tag ), pb::Retain( tag ) );
 }
+void sipsnHeaderReplacesDelToTag( SipsnHeaderReplaces **hdr ) { PB_DEL( hdr, toTag ); }
 
 PbString *sipsnHeaderReplacesFromTag( SipsnHeaderReplaces *hdr ) { return PB_GET( hdr, fromTag ); }
 bool      sipsnHeaderReplacesHasFromTag( SipsnHeaderReplaces *hdr ) { return PB_HAS( hdr, fromTag ); }
-void      sipsnHeaderReplacesDelFromTag( SipsnHeaderReplaces **hdr ) { PB_DEL( hdr, fromTag ); }
 void      sipsnHeaderReplacesSetFromTag( SipsnHeaderReplaces **hdr, PbString *tag )
 {
     PB_SET( hdr, fromTag, sipsnTagOk( tag ), pb::Retain( tag ) );
 }
+void sipsnHeaderReplacesDelFromTag( SipsnHeaderReplaces **hdr ) { PB_DEL( hdr, fromTag ); }
 
 bool sipsnHeaderReplacesEarlyOnly( SipsnHeaderReplaces *hdr ) { return PB_GET( hdr, earlyOnly ); }
 void sipsnHeaderReplacesSetEarlyOnly( SipsnHeaderReplaces **hdr, bool earlyOnly )

@@ -10,9 +10,9 @@
  *     early only      true when only a dialog not yet confirmed is meant; false by default
  *     generic params  every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. An "early-only" with a value is a generic
- * parameter. The from tag is written before the to tag; on the wire a member that is present takes the place of a
- * generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
+ * Only the last line of the header field counts; without lines it does not decode. An "early-only" with a value is a
+ * generic parameter. The from tag is written before the to tag; on the wire a member that is present takes the place of
+ * a generic parameter of its name. Getters return a new reference, null when the member is absent. Setters and deleters
  * replace *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_REPLACES_H
 #define SIPSN_HEADER_REPLACES_H

@@ -43,11 +43,11 @@ void      sipsnHeaderReplyToSetIri( SipsnHeaderReplyTo **hdr, PbString *iri )
 
 PbString *sipsnHeaderReplyToDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReplyToHasDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderReplyToDelDisplayName( SipsnHeaderReplyTo **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderReplyToSetDisplayName( SipsnHeaderReplyTo **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderReplyToDelDisplayName( SipsnHeaderReplyTo **hdr ) { PB_DEL( hdr, displayName ); }
 
 SipsnGenericParams *sipsnHeaderReplyToGenericParams( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, genericParams ); }
 void                sipsnHeaderReplyToSetGenericParams( SipsnHeaderReplyTo **hdr, SipsnGenericParams *genericParams )

@@ -8,9 +8,9 @@
  *     display name    free text, without quotes and escapes; optional
  *     generic params  the parameters; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. The address is always written in angle brackets.
- * Getters return a new reference, null when the member is absent. Setters and deleters replace *hdr by a private copy
- * when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The address is always written in
+ * angle brackets. Getters return a new reference, null when the member is absent. Setters and deleters replace *hdr by
+ * a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_REPLY_TO_H
 #define SIPSN_HEADER_REPLY_TO_H
 

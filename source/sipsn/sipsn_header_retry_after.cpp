@@ -44,11 +44,11 @@ void    sipsnHeaderRetryAfterSetDeltaSeconds( SipsnHeaderRetryAfter **hdr, int64
 
 int64_t sipsnHeaderRetryAfterDuration( SipsnHeaderRetryAfter *hdr ) { return PB_GET( hdr, duration ); }
 bool    sipsnHeaderRetryAfterHasDuration( SipsnHeaderRetryAfter *hdr ) { return PB_HAS( hdr, duration ); }
-void    sipsnHeaderRetryAfterDelDuration( SipsnHeaderRetryAfter **hdr ) { PB_DEL( hdr, duration ); }
 void    sipsnHeaderRetryAfterSetDuration( SipsnHeaderRetryAfter **hdr, int64_t deltaSeconds )
 {
     PB_SET( hdr, duration, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
+void sipsnHeaderRetryAfterDelDuration( SipsnHeaderRetryAfter **hdr ) { PB_DEL( hdr, duration ); }
 
 SipsnGenericParams *sipsnHeaderRetryAfterGenericParams( SipsnHeaderRetryAfter *hdr )
 {

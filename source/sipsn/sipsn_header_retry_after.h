@@ -8,10 +8,10 @@
  *     duration         seconds for which it holds from then, 0 or above; -1 when absent
  *     generic params   every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. The comment is read and not kept. Of several
- * durations the last counts; one that is no number is a generic parameter. Text that no ";" begins, behind the comment
- * or behind the last parameter, is ignored. Getters return new references. Setters and deleters replace *hdr by a
- * private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The comment is read and not kept. Of
+ * several durations the last counts; one that is not a number is a generic parameter. Text that no ";" begins, behind
+ * the comment or behind the last parameter, is ignored. Getters return new references. Setters and deleters replace
+ * *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_RETRY_AFTER_H
 #define SIPSN_HEADER_RETRY_AFTER_H
 

@@ -2,8 +2,8 @@
  *
  * Example: Route: "Edge" <sip:edge.example.com;lr>;lang=en
  *
- * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is no
- * route-param. A header field without lines is no header. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeRouteAt asks for it, which gives null when it is not a
+ * route-param. A header field without lines does not decode. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_ROUTE_H
 #define SIPSN_HEADER_ROUTE_H
 

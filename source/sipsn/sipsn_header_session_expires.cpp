@@ -54,11 +54,11 @@ void    sipsnHeaderSessionExpiresSetDeltaSeconds( SipsnHeaderSessionExpires **hd
 
 PbString *sipsnHeaderSessionExpiresRefresher( SipsnHeaderSessionExpires *hdr ) { return PB_GET( hdr, refresher ); }
 bool      sipsnHeaderSessionExpiresHasRefresher( SipsnHeaderSessionExpires *hdr ) { return PB_HAS( hdr, refresher ); }
-void      sipsnHeaderSessionExpiresDelRefresher( SipsnHeaderSessionExpires **hdr ) { PB_DEL( hdr, refresher ); }
 void      sipsnHeaderSessionExpiresSetRefresher( SipsnHeaderSessionExpires **hdr, PbString *refresher )
 {
     PB_SET( hdr, refresher, sipsnRefresherOk( refresher ), sipsnRefresherNormalize( refresher ) );
 }
+void sipsnHeaderSessionExpiresDelRefresher( SipsnHeaderSessionExpires **hdr ) { PB_DEL( hdr, refresher ); }
 
 SipsnGenericParams *sipsnHeaderSessionExpiresGenericParams( SipsnHeaderSessionExpires *hdr )
 {

@@ -44,11 +44,11 @@ void      sipsnHeaderSessionIdSetLocalUuid( SipsnHeaderSessionId **hdr, PbString
 
 PbString *sipsnHeaderSessionIdRemoteUuid( SipsnHeaderSessionId *hdr ) { return PB_GET( hdr, remoteUuid ); }
 bool      sipsnHeaderSessionIdHasRemoteUuid( SipsnHeaderSessionId *hdr ) { return PB_HAS( hdr, remoteUuid ); }
-void      sipsnHeaderSessionIdDelRemoteUuid( SipsnHeaderSessionId **hdr ) { PB_DEL( hdr, remoteUuid ); }
 void      sipsnHeaderSessionIdSetRemoteUuid( SipsnHeaderSessionId **hdr, PbString *sessUuid )
 {
     PB_SET( hdr, remoteUuid, sipsnSessUuidOk( sessUuid ), pb::Retain( sessUuid ) );
 }
+void sipsnHeaderSessionIdDelRemoteUuid( SipsnHeaderSessionId **hdr ) { PB_DEL( hdr, remoteUuid ); }
 
 SipsnGenericParams *sipsnHeaderSessionIdGenericParams( SipsnHeaderSessionId *hdr )
 {

@@ -9,10 +9,10 @@
  *     remote uuid      the same; optional
  *     generic params   every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. Of several remote uuids the last counts; one that
- * is no uuid is a generic parameter. Text behind the last parameter that no ";" begins is ignored. Getters return new
- * references, or null when the member is absent. Setters and deleters replace *hdr by a private copy when it is shared.
- * A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. Of several remote uuids the last
+ * counts; one that is no uuid is a generic parameter. Text behind the last parameter that no ";" begins is ignored.
+ * Getters return new references, or null when the member is absent. Setters and deleters replace *hdr by a private copy
+ * when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_SESSION_ID_H
 #define SIPSN_HEADER_SESSION_ID_H
 

@@ -67,19 +67,19 @@ void sipsnHeaderSubscriptionStateSetSubstateValue( SipsnHeaderSubscriptionState 
 
 PbString *sipsnHeaderSubscriptionStateReason( SipsnHeaderSubscriptionState *hdr ) { return PB_GET( hdr, reason ); }
 bool      sipsnHeaderSubscriptionStateHasReason( SipsnHeaderSubscriptionState *hdr ) { return PB_HAS( hdr, reason ); }
-void      sipsnHeaderSubscriptionStateDelReason( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, reason ); }
 void      sipsnHeaderSubscriptionStateSetReason( SipsnHeaderSubscriptionState **hdr, PbString *eventReasonValue )
 {
     PB_SET( hdr, reason, sipsnEventReasonValueOk( eventReasonValue ), sipsnEventReasonValueNormalize( eventReasonValue ) );
 }
+void sipsnHeaderSubscriptionStateDelReason( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, reason ); }
 
 int64_t sipsnHeaderSubscriptionStateExpires( SipsnHeaderSubscriptionState *hdr ) { return PB_GET( hdr, expires ); }
 bool    sipsnHeaderSubscriptionStateHasExpires( SipsnHeaderSubscriptionState *hdr ) { return PB_HAS( hdr, expires ); }
-void    sipsnHeaderSubscriptionStateDelExpires( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, expires ); }
 void    sipsnHeaderSubscriptionStateSetExpires( SipsnHeaderSubscriptionState **hdr, int64_t deltaSeconds )
 {
     PB_SET( hdr, expires, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
+void sipsnHeaderSubscriptionStateDelExpires( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, expires ); }
 
 int64_t sipsnHeaderSubscriptionStateRetryAfter( SipsnHeaderSubscriptionState *hdr )
 {
@@ -91,11 +91,11 @@ bool sipsnHeaderSubscriptionStateHasRetryAfter( SipsnHeaderSubscriptionState *hd
     return PB_HAS( hdr, retryAfter );
 }
 
-void sipsnHeaderSubscriptionStateDelRetryAfter( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, retryAfter ); }
 void sipsnHeaderSubscriptionStateSetRetryAfter( SipsnHeaderSubscriptionState **hdr, int64_t deltaSeconds )
 {
     PB_SET( hdr, retryAfter, sipsnDeltaSecondsOk( deltaSeconds ), deltaSeconds );
 }
+void sipsnHeaderSubscriptionStateDelRetryAfter( SipsnHeaderSubscriptionState **hdr ) { PB_DEL( hdr, retryAfter ); }
 
 SipsnGenericParams *sipsnHeaderSubscriptionStateGenericParams( SipsnHeaderSubscriptionState *hdr )
 {

@@ -12,10 +12,10 @@
  *     retry after      seconds, 0 or above; -1 when absent
  *     generic params   every other parameter; never absent, may be empty
  *
- * The last line of the header field counts, and no line is no header. Of several parameters of one name the last
- * counts; one whose value does not fit is a generic parameter. They are written in the order above. Getters return new
- * references, or null when the member is absent. Setters and deleters replace *hdr by a private copy when it is shared.
- * A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. Of several parameters of one name
+ * the last counts; one whose value does not fit is a generic parameter. They are written in the order above. Getters
+ * return new references, or null when the member is absent. Setters and deleters replace *hdr by a private copy when it
+ * is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_SUBSCRIPTION_STATE_H
 #define SIPSN_HEADER_SUBSCRIPTION_STATE_H
 

@@ -3,7 +3,7 @@
  * Example: Supported: 100rel,replaces,timer
  *
  * Option tags are kept in lower case, in whatever case they are given. All are encoded into one line. A header field
- * without lines is no header. The Cstr and Wcstr forms take text with its length, -1 meaning up to the terminating
+ * without lines does not decode. The Cstr and Wcstr forms take text with its length, -1 meaning up to the terminating
  * zero. */
 #ifndef SIPSN_HEADER_SUPPORTED_H
 #define SIPSN_HEADER_SUPPORTED_H

@@ -32,27 +32,27 @@ void      sipsnHeaderToSetIri( SipsnHeaderTo **hdr, PbString *iri )
 
 PbString *sipsnHeaderToDisplayName( SipsnHeaderTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderToHasDisplayName( SipsnHeaderTo *hdr ) { return PB_HAS( hdr, displayName ); }
-void      sipsnHeaderToDelDisplayName( SipsnHeaderTo **hdr ) { PB_DEL( hdr, displayName ); }
 void      sipsnHeaderToSetDisplayName( SipsnHeaderTo **hdr, PbString *displayName )
 {
     PB_SET( hdr, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHeaderToDelDisplayName( SipsnHeaderTo **hdr ) { PB_DEL( hdr, displayName ); }
 
 PbString *sipsnHeaderToTag( SipsnHeaderTo *hdr ) { return PB_GET( hdr, tag ); }
 bool      sipsnHeaderToHasTag( SipsnHeaderTo *hdr ) { return PB_HAS( hdr, tag ); }
-void      sipsnHeaderToDelTag( SipsnHeaderTo **hdr ) { PB_DEL( hdr, tag ); }
 void      sipsnHeaderToSetTag( SipsnHeaderTo **hdr, PbString *tag )
 {
     PB_SET( hdr, tag, sipsnTagOk( tag ), pb::Retain( tag ) );
 }
+void sipsnHeaderToDelTag( SipsnHeaderTo **hdr ) { PB_DEL( hdr, tag ); }
 
 PbString *sipsnHeaderToEpid( SipsnHeaderTo *hdr ) { return PB_GET( hdr, epid ); }
 bool      sipsnHeaderToHasEpid( SipsnHeaderTo *hdr ) { return PB_HAS( hdr, epid ); }
-void      sipsnHeaderToDelEpid( SipsnHeaderTo **hdr ) { PB_DEL( hdr, epid ); }
 void      sipsnHeaderToSetEpid( SipsnHeaderTo **hdr, PbString *epid )
 {
     PB_SET( hdr, epid, sipsnEpidOk( epid ), pb::Retain( epid ) );
 }
+void sipsnHeaderToDelEpid( SipsnHeaderTo **hdr ) { PB_DEL( hdr, epid ); }
 
 SipsnGenericParams *sipsnHeaderToGenericParams( SipsnHeaderTo *hdr ) { return PB_GET( hdr, genericParams ); }
 void                sipsnHeaderToSetGenericParams( SipsnHeaderTo **hdr, SipsnGenericParams *genericParams )

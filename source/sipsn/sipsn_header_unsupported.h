@@ -3,7 +3,7 @@
  * Example: Unsupported: 100rel,resource-priority
  *
  * Option tags are kept in lower case, in whatever case they are given. All are encoded into one line. A header field
- * without lines is no header. */
+ * without lines does not decode. */
 #ifndef SIPSN_HEADER_UNSUPPORTED_H
 #define SIPSN_HEADER_UNSUPPORTED_H
 

@@ -6,8 +6,8 @@
  *
  *     user agent   products and comments, kept as written; never absent
  *
- * The last line of the header field counts, and no line is no header. The getter returns a new reference. The setter
- * replaces *hdr by a private copy when it is shared. A null or invalid argument aborts. */
+ * Only the last line of the header field counts; without lines it does not decode. The getter returns a new reference.
+ * The setter replaces *hdr by a private copy when it is shared. A null or invalid argument aborts. */
 #ifndef SIPSN_HEADER_USER_AGENT_H
 #define SIPSN_HEADER_USER_AGENT_H
 

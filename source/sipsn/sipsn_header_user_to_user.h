@@ -2,7 +2,7 @@
  *
  * Example: User-To-User: 56a390f3d2b7310023;encoding=hex;purpose=isdn-uui;content=isdn-uui;lang=en
  *
- * Each value is kept as its text and decoded when TryDecodeUuiValueAt asks for it, which gives null when it is no
+ * Each value is kept as its text and decoded when TryDecodeUuiValueAt asks for it, which gives null when it is not a
  * uui-value. A header field without lines decodes to an empty list. Each value is encoded as a line of its own. In a
  * message the field has the canonical name, "User-To-User". */
 #ifndef SIPSN_HEADER_USER_TO_USER_H

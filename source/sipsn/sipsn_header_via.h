@@ -2,8 +2,8 @@
  *
  * Example: Via: SIP/2.0/UDP 192.0.2.10:5060;rport;branch=z9hG4bK776asdhds;keep=30
  *
- * Each value is kept as its text and decoded when TryDecodeViaAt asks for it, which gives null when it is no via-parm.
- * A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
+ * Each value is kept as its text and decoded when TryDecodeViaAt asks for it, which gives null when it is not a
+ * via-parm. A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_VIA_H
 #define SIPSN_HEADER_VIA_H
 

@@ -2,7 +2,7 @@
  *
  * Example: Warning: 307 proxy.example.com "Session parameter 'foo' not understood"
  *
- * Each value is kept as its text and decoded when TryDecodeWarningAt asks for it, which gives null when it is no
+ * Each value is kept as its text and decoded when TryDecodeWarningAt asks for it, which gives null when it is not a
  * warning-value. A header field without lines decodes to an empty list. Each value is encoded as a line of its own. */
 #ifndef SIPSN_HEADER_WARNING_H
 #define SIPSN_HEADER_WARNING_H

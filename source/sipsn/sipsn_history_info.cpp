@@ -52,11 +52,11 @@ void      sipsnHistoryInfoSetIri( SipsnHistoryInfo **hi, PbString *iri )
 
 PbString *sipsnHistoryInfoDisplayName( SipsnHistoryInfo *hi ) { return PB_GET( hi, displayName ); }
 bool      sipsnHistoryInfoHasDisplayName( SipsnHistoryInfo *hi ) { return PB_HAS( hi, displayName ); }
-void      sipsnHistoryInfoDelDisplayName( SipsnHistoryInfo **hi ) { PB_DEL( hi, displayName ); }
 void      sipsnHistoryInfoSetDisplayName( SipsnHistoryInfo **hi, PbString *displayName )
 {
     PB_SET( hi, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnHistoryInfoDelDisplayName( SipsnHistoryInfo **hi ) { PB_DEL( hi, displayName ); }
 
 PbString *sipsnHistoryInfoIndex( SipsnHistoryInfo *hi ) { return PB_GET( hi, index ); }
 void      sipsnHistoryInfoSetIndex( SipsnHistoryInfo **hi, PbString *index )
@@ -66,27 +66,27 @@ void      sipsnHistoryInfoSetIndex( SipsnHistoryInfo **hi, PbString *index )
 
 PbString *sipsnHistoryInfoRc( SipsnHistoryInfo *hi ) { return PB_GET( hi, rc ); }
 bool      sipsnHistoryInfoHasRc( SipsnHistoryInfo *hi ) { return PB_HAS( hi, rc ); }
-void      sipsnHistoryInfoDelRc( SipsnHistoryInfo **hi ) { PB_DEL( hi, rc ); }
 void      sipsnHistoryInfoSetRc( SipsnHistoryInfo **hi, PbString *rc )
 {
     PB_SET( hi, rc, sipsnHistoryInfoIndexOk( rc ), pb::Retain( rc ) );
 }
+void sipsnHistoryInfoDelRc( SipsnHistoryInfo **hi ) { PB_DEL( hi, rc ); }
 
 PbString *sipsnHistoryInfoMp( SipsnHistoryInfo *hi ) { return PB_GET( hi, mp ); }
 bool      sipsnHistoryInfoHasMp( SipsnHistoryInfo *hi ) { return PB_HAS( hi, mp ); }
-void      sipsnHistoryInfoDelMp( SipsnHistoryInfo **hi ) { PB_DEL( hi, mp ); }
 void      sipsnHistoryInfoSetMp( SipsnHistoryInfo **hi, PbString *mp )
 {
     PB_SET( hi, mp, sipsnHistoryInfoIndexOk( mp ), pb::Retain( mp ) );
 }
+void sipsnHistoryInfoDelMp( SipsnHistoryInfo **hi ) { PB_DEL( hi, mp ); }
 
 PbString *sipsnHistoryInfoNp( SipsnHistoryInfo *hi ) { return PB_GET( hi, np ); }
 bool      sipsnHistoryInfoHasNp( SipsnHistoryInfo *hi ) { return PB_HAS( hi, np ); }
-void      sipsnHistoryInfoDelNp( SipsnHistoryInfo **hi ) { PB_DEL( hi, np ); }
 void      sipsnHistoryInfoSetNp( SipsnHistoryInfo **hi, PbString *np )
 {
     PB_SET( hi, np, sipsnHistoryInfoIndexOk( np ), pb::Retain( np ) );
 }
+void sipsnHistoryInfoDelNp( SipsnHistoryInfo **hi ) { PB_DEL( hi, np ); }
 
 SipsnGenericParams *sipsnHistoryInfoGenericParams( SipsnHistoryInfo *hi ) { return PB_GET( hi, genericParams ); }
 void                sipsnHistoryInfoSetGenericParams( SipsnHistoryInfo **hi, SipsnGenericParams *genericParams )

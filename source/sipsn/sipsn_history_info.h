@@ -11,8 +11,8 @@
  *     generic params   every other parameter; never absent, may be empty
  *
  * Indices are texts: "1.10" and "1.1" differ, and "1.10" comes before "1.9". A text without angle brackets, or without
- * an index, is no entry. A decoded parameter whose value does not fit its member is kept as a generic one. On the wire
- * a member that is present takes the place of a generic parameter of its name.
+ * an index, is not an entry. A decoded parameter whose value does not fit its member is kept as a generic one. On the
+ * wire a member that is present takes the place of a generic parameter of its name.
  *
  * Getters return a new reference, or null when the member is absent. Setters and deleters replace *hi by a private copy
  * when it is shared. A null or invalid argument aborts. Values compare in the order above. */

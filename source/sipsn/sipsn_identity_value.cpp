@@ -39,11 +39,11 @@ void      sipsnIdentityValueSetIri( SipsnIdentityValue **id, PbString *iri )
 
 PbString *sipsnIdentityValueDisplayName( SipsnIdentityValue *id ) { return PB_GET( id, displayName ); }
 bool      sipsnIdentityValueHasDisplayName( SipsnIdentityValue *id ) { return PB_HAS( id, displayName ); }
-void      sipsnIdentityValueDelDisplayName( SipsnIdentityValue **id ) { PB_DEL( id, displayName ); }
 void      sipsnIdentityValueSetDisplayName( SipsnIdentityValue **id, PbString *displayName )
 {
     PB_SET( id, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnIdentityValueDelDisplayName( SipsnIdentityValue **id ) { PB_DEL( id, displayName ); }
 
 // ---- Text form -------------------------------------------------------------------------------------
 

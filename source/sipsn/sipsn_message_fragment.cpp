@@ -376,11 +376,11 @@ PbVector *sipsnMessageFragmentHeadersVector( SipsnMessageFragment *frag )
 
 PbBuffer *sipsnMessageFragmentBody( SipsnMessageFragment *frag ) { return PB_GET( frag, body ); }
 bool      sipsnMessageFragmentHasBody( SipsnMessageFragment *frag ) { return PB_HAS( frag, body ); }
-void      sipsnMessageFragmentDelBody( SipsnMessageFragment **frag ) { PB_DEL( frag, body ); }
 void      sipsnMessageFragmentSetBody( SipsnMessageFragment **frag, PbBuffer *body )
 {
     PB_SET( frag, body, body, pb::Retain( body ) );
 }
+void sipsnMessageFragmentDelBody( SipsnMessageFragment **frag ) { PB_DEL( frag, body ); }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 

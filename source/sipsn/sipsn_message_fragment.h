@@ -130,7 +130,7 @@ PB_API bool sipsnMessageFragmentHasHeaderWcstr( SipsnMessageFragment *frag, cons
 /* Inserts the header, or replaces the one of its name with all of its lines. */
 PB_API void sipsnMessageFragmentSetHeader( SipsnMessageFragment **frag, SipsnMessageHeader *header );
 
-/* An absent name is no error. */
+/* An absent name is not an error. */
 PB_API void sipsnMessageFragmentDelHeader( SipsnMessageFragment **frag, PbString *name );
 PB_API void sipsnMessageFragmentDelHeaderCstr( SipsnMessageFragment **frag, const char *name, int64_t nameLength );
 PB_API void sipsnMessageFragmentDelHeaderWcstr( SipsnMessageFragment **frag, const wchar_t *name, int64_t nameLength );

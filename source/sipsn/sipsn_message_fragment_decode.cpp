@@ -78,7 +78,7 @@ StartLine TryDecodeRequestLine( SipsnMessageFragment **frag, Bytes method, Bytes
     return StartLine::read;
 }
 
-// Into a new fragment. The status line is tried first, as a protocol version is no method. Pieces are cut at single
+// Into a new fragment. The status line is tried first, as a protocol version is not a method. Pieces are cut at single
 // spaces.
 StartLine TryDecodeStartLine( SipsnMessageFragment **frag, Bytes line )
 {
@@ -194,7 +194,7 @@ bool TryDecodeFields( DecodedHeaders &headers, Bytes lines, Refusal *refusal )
     return true;
 }
 
-// Sets the value of the last Content-Length, -1 when there is none; false when it is no non-negative integer.
+// Sets the value of the last Content-Length, -1 when there is none; false when it is not a non-negative integer.
 bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
 {
     SipsnMessageHeader *header = PeekContentLength( frag );

@@ -36,7 +36,7 @@ static bool HasOnlyLineEnds( Bytes text )
     return text.Empty();
 }
 
-// The bytes that Content-Length of the message at *place should have counted, when what follows it is no message.
+// The bytes that Content-Length of the message at *place should have counted, when what follows it is not a message.
 static SipsnFault BlameContentLength( PbBuffer *buf, const SipsnMessagePlace &place )
 {
     const Bytes   message   = AllBytes( buf ).From( place.begin.offset );

@@ -57,19 +57,19 @@ void      sipsnReasonSetProtocol( SipsnReason **reason, PbString *reasonProtocol
 
 PbString *sipsnReasonCause( SipsnReason *reason ) { return PB_GET( reason, cause ); }
 bool      sipsnReasonHasCause( SipsnReason *reason ) { return PB_HAS( reason, cause ); }
-void      sipsnReasonDelCause( SipsnReason **reason ) { PB_DEL( reason, cause ); }
 void      sipsnReasonSetCause( SipsnReason **reason, PbString *reasonCause )
 {
     PB_SET( reason, cause, sipsnReasonCauseOk( reasonCause ), pb::Retain( reasonCause ) );
 }
+void sipsnReasonDelCause( SipsnReason **reason ) { PB_DEL( reason, cause ); }
 
 PbString *sipsnReasonText( SipsnReason *reason ) { return PB_GET( reason, text ); }
 bool      sipsnReasonHasText( SipsnReason *reason ) { return PB_HAS( reason, text ); }
-void      sipsnReasonDelText( SipsnReason **reason ) { PB_DEL( reason, text ); }
 void      sipsnReasonSetText( SipsnReason **reason, PbString *reasonText )
 {
     PB_SET( reason, text, sipsnReasonTextOk( reasonText ), pb::Retain( reasonText ) );
 }
+void sipsnReasonDelText( SipsnReason **reason ) { PB_DEL( reason, text ); }
 
 SipsnGenericParams *sipsnReasonGenericParams( SipsnReason *reason ) { return PB_GET( reason, genericParams ); }
 void                sipsnReasonSetGenericParams( SipsnReason **reason, SipsnGenericParams *genericParams )

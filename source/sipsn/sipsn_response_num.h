@@ -9,7 +9,7 @@ PB_BEGIN_DECLS
 /* Whether the number is 1 to 4294967295. */
 PB_API bool sipsnResponseNumOk( int64_t responseNum );
 
-/* Whether the number after this one is valid too. What is no response number aborts. */
+/* Whether the number after this one is valid too. What is not a response number aborts. */
 PB_API bool sipsnResponseNumIncrementOk( int64_t responseNum );
 
 PB_END_DECLS

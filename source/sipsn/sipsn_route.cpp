@@ -39,11 +39,11 @@ void      sipsnRouteSetIri( SipsnRoute **route, PbString *iri )
 
 PbString *sipsnRouteDisplayName( SipsnRoute *route ) { return PB_GET( route, displayName ); }
 bool      sipsnRouteHasDisplayName( SipsnRoute *route ) { return PB_HAS( route, displayName ); }
-void      sipsnRouteDelDisplayName( SipsnRoute **route ) { PB_DEL( route, displayName ); }
 void      sipsnRouteSetDisplayName( SipsnRoute **route, PbString *displayName )
 {
     PB_SET( route, displayName, sipsnDisplayNameOk( displayName ), pb::Retain( displayName ) );
 }
+void sipsnRouteDelDisplayName( SipsnRoute **route ) { PB_DEL( route, displayName ); }
 
 SipsnGenericParams *sipsnRouteGenericParams( SipsnRoute *route ) { return PB_GET( route, genericParams ); }
 void                sipsnRouteSetGenericParams( SipsnRoute **route, SipsnGenericParams *genericParams )

@@ -3,8 +3,8 @@
 //
 // Every production answers how many characters, counted from chs[0], form it: the longest prefix that its rules allow,
 // never more than `length`. 0 means no match; where a production may be empty, it also means the empty match. Text is
-// one line: CR and LF are no whitespace and end or fail every production. All of them allocate nothing and take linear
-// time.
+// one line: CR and LF are not whitespace, and end or fail every production. All of them allocate nothing and take
+// linear time.
 //
 // A negative length and a null array with a length other than 0 abort, as does an argument `ch` above 0x10FFFF.
 //
@@ -113,7 +113,7 @@ PB_API int64_t sipsn___SkipIpV6Reference( const PbChar *chs, int64_t length ); /
 PB_API int64_t sipsn___SkipPort( const PbChar *chs, int64_t length );
 PB_API int64_t sipsn___SkipUri( const PbChar *chs, int64_t length ); // an IRI with its scheme
 
-// Letters, digits, hyphens and escapes; the first and the last is no hyphen.
+// Letters, digits, hyphens and escapes; neither the first nor the last is a hyphen.
 PB_API int64_t sipsn___SkipDomainLabel( const PbChar *chs, int64_t length );
 
 // Labels, each with the "." that follows it: a trailing dot belongs to the name, and "a..b" gives 2.

@@ -12,7 +12,7 @@ PB_BEGIN_DECLS
 /* Whether the number is 100 to 999. */
 PB_API bool sipsnStatusCodeOk( int64_t sc );
 
-/* The class of a code: 100 to 199, 200 to 299 and so on to 600 to 699. Codes from 700 on belong to none. What is no
+/* The class of a code: 100 to 199, 200 to 299 and so on to 600 to 699. Codes from 700 on belong to none. What is not a
  * status code aborts. */
 PB_API bool sipsnStatusCodeInformational( int64_t sc );
 PB_API bool sipsnStatusCodeSuccess( int64_t sc );
@@ -22,7 +22,7 @@ PB_API bool sipsnStatusCodeServerError( int64_t sc );
 PB_API bool sipsnStatusCodeGlobalFailure( int64_t sc );
 
 /* The default reason phrase of a code, as a new reference; a code that has none gives a phrase that names its number.
- * What is no status code aborts. */
+ * What is not a status code aborts. */
 PB_API PbString *sipsnStatusCodeReasonPhrase( int64_t sc );
 
 PB_END_DECLS

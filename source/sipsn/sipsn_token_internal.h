@@ -22,7 +22,7 @@ PB_API int64_t   sipsn___DiversionCounterTryDecode( const PbChar *chs, int64_t l
 PB_API PbString *sipsn___DiversionLimitEncode( int64_t diversionLimit );
 PB_API int64_t   sipsn___DiversionLimitTryDecode( const PbChar *chs, int64_t length );
 
-// Decimal without padding. Decode takes what sipsn___SkipWarnCode has matched and aborts on text that is no number.
+// Decimal without padding. Decode takes what sipsn___SkipWarnCode has matched and aborts on text that is not a number.
 PB_API PbString *sipsn___WarnCodeEncode( int64_t warnCode );
 PB_API int64_t   sipsn___WarnCodeDecode( const PbChar *chs, int64_t length );
 

@@ -53,27 +53,27 @@ void      sipsnUuiValueSetUuiData( SipsnUuiValue **value, PbString *uuiData )
 
 PbString *sipsnUuiValueEncoding( SipsnUuiValue *value ) { return PB_GET( value, encoding ); }
 bool      sipsnUuiValueHasEncoding( SipsnUuiValue *value ) { return PB_HAS( value, encoding ); }
-void      sipsnUuiValueDelEncoding( SipsnUuiValue **value ) { PB_DEL( value, encoding ); }
 void      sipsnUuiValueSetEncoding( SipsnUuiValue **value, PbString *encoding )
 {
     PB_SET( value, encoding, sipsnTokenOk( encoding ), pb::Retain( encoding ) );
 }
+void sipsnUuiValueDelEncoding( SipsnUuiValue **value ) { PB_DEL( value, encoding ); }
 
 PbString *sipsnUuiValuePurpose( SipsnUuiValue *value ) { return PB_GET( value, purpose ); }
 bool      sipsnUuiValueHasPurpose( SipsnUuiValue *value ) { return PB_HAS( value, purpose ); }
-void      sipsnUuiValueDelPurpose( SipsnUuiValue **value ) { PB_DEL( value, purpose ); }
 void      sipsnUuiValueSetPurpose( SipsnUuiValue **value, PbString *purpose )
 {
     PB_SET( value, purpose, sipsnTokenOk( purpose ), pb::Retain( purpose ) );
 }
+void sipsnUuiValueDelPurpose( SipsnUuiValue **value ) { PB_DEL( value, purpose ); }
 
 PbString *sipsnUuiValueContent( SipsnUuiValue *value ) { return PB_GET( value, content ); }
 bool      sipsnUuiValueHasContent( SipsnUuiValue *value ) { return PB_HAS( value, content ); }
-void      sipsnUuiValueDelContent( SipsnUuiValue **value ) { PB_DEL( value, content ); }
 void      sipsnUuiValueSetContent( SipsnUuiValue **value, PbString *content )
 {
     PB_SET( value, content, sipsnTokenOk( content ), pb::Retain( content ) );
 }
+void sipsnUuiValueDelContent( SipsnUuiValue **value ) { PB_DEL( value, content ); }
 
 SipsnGenericParams *sipsnUuiValueGenericParams( SipsnUuiValue *value ) { return PB_GET( value, genericParams ); }
 void                sipsnUuiValueSetGenericParams( SipsnUuiValue **value, SipsnGenericParams *genericParams )

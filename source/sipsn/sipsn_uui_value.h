@@ -10,8 +10,9 @@
  *     content          a token, case kept; optional
  *     generic params   every other parameter; never absent, may be empty
  *
- * Data is on the wire as a token only: a value whose data is a quoted string does not decode, and data that is no token
- * is left out when the value is written. A member that is present takes the place of a generic parameter of its name.
+ * Data is on the wire as a token only: a value whose data is a quoted string does not decode, and data that is not a
+ * token is left out when the value is written. A member that is present takes the place of a generic parameter of its
+ * name.
  *
  * Getters return a new reference, or null when the member is absent. Setters and deleters replace *value by a private
  * copy when it is shared. A null or invalid argument aborts. Values compare in the order above. */

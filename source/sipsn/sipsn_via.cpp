@@ -109,29 +109,29 @@ void sipsnViaSetHost( SipsnVia **via, PbString *host ) { PB_SET( via, host, sips
 
 int64_t sipsnViaPort( SipsnVia *via ) { return PB_GET( via, port ); }
 bool    sipsnViaHasPort( SipsnVia *via ) { return PB_HAS( via, port ); }
-void    sipsnViaDelPort( SipsnVia **via ) { PB_DEL( via, port ); }
 void    sipsnViaSetPort( SipsnVia **via, int64_t port ) { PB_SET( via, port, sipsnPortOk( port ), port ); }
+void    sipsnViaDelPort( SipsnVia **via ) { PB_DEL( via, port ); }
 
 int64_t sipsnViaTtl( SipsnVia *via ) { return PB_GET( via, ttl ); }
 bool    sipsnViaHasTtl( SipsnVia *via ) { return PB_HAS( via, ttl ); }
-void    sipsnViaDelTtl( SipsnVia **via ) { PB_DEL( via, ttl ); }
 void    sipsnViaSetTtl( SipsnVia **via, int64_t ttl ) { PB_SET( via, ttl, sipsnTtlOk( ttl ), ttl ); }
+void    sipsnViaDelTtl( SipsnVia **via ) { PB_DEL( via, ttl ); }
 
 PbString *sipsnViaMaddr( SipsnVia *via ) { return PB_GET( via, maddr ); }
 bool      sipsnViaHasMaddr( SipsnVia *via ) { return PB_HAS( via, maddr ); }
-void      sipsnViaDelMaddr( SipsnVia **via ) { PB_DEL( via, maddr ); }
 void      sipsnViaSetMaddr( SipsnVia **via, PbString *host )
 {
     PB_SET( via, maddr, sipsnHostOk( host ), pb::Retain( host ) );
 }
+void sipsnViaDelMaddr( SipsnVia **via ) { PB_DEL( via, maddr ); }
 
 InAddress *sipsnViaReceived( SipsnVia *via ) { return PB_GET( via, received ); }
 bool       sipsnViaHasReceived( SipsnVia *via ) { return PB_HAS( via, received ); }
-void       sipsnViaDelReceived( SipsnVia **via ) { PB_DEL( via, received ); }
 void       sipsnViaSetReceived( SipsnVia **via, InAddress *received )
 {
     PB_SET( via, received, received, pb::Retain( received ) );
 }
+void sipsnViaDelReceived( SipsnVia **via ) { PB_DEL( via, received ); }
 
 bool sipsnViaHasRport( SipsnVia *via ) { return sipsnViaHasRportEmpty( via ) || sipsnViaHasRportNumeric( via ); }
 bool sipsnViaHasRportEmpty( SipsnVia *via ) { return PB_HAS( via, rportEmpty ); }
@@ -157,11 +157,11 @@ void sipsnViaDelRport( SipsnVia **via )
 
 PbString *sipsnViaBranch( SipsnVia *via ) { return PB_GET( via, branch ); }
 bool      sipsnViaHasBranch( SipsnVia *via ) { return PB_HAS( via, branch ); }
-void      sipsnViaDelBranch( SipsnVia **via ) { PB_DEL( via, branch ); }
 void      sipsnViaSetBranch( SipsnVia **via, PbString *branch )
 {
     PB_SET( via, branch, sipsnBranchOk( branch ), pb::Retain( branch ) );
 }
+void sipsnViaDelBranch( SipsnVia **via ) { PB_DEL( via, branch ); }
 
 SipsnGenericParams *sipsnViaGenericParams( SipsnVia *via ) { return PB_GET( via, genericParams ); }
 void                sipsnViaSetGenericParams( SipsnVia **via, SipsnGenericParams *params )
