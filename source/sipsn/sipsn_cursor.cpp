@@ -45,11 +45,11 @@ Wanted WordsOf( Production *production )
         Production *production;
         Wanted      wanted;
     } table[] = {
-        { sipsn___SkipColon, { ":", Wanted::separator } },   { sipsn___SkipComma, { ",", Wanted::separator } },
-        { sipsn___SkipComment, { "a comment" } },            { sipsn___SkipEqual, { "=", Wanted::separator } },
-        { sipsn___SkipLaquot, { "<", Wanted::separator } },  { sipsn___SkipLws, { "a blank", Wanted::separator } },
-        { sipsn___SkipRaquot, { ">", Wanted::separator } },  { sipsn___SkipSemi, { ";", Wanted::separator } },
-        { sipsn___SkipSlash, { "/", Wanted::separator } },   { sipsn___SkipStar, { "*", Wanted::separator } },
+        { sipsn___SkipColon, { ":", Wanted::separator } },  { sipsn___SkipComma, { ",", Wanted::separator } },
+        { sipsn___SkipComment, { "a comment" } },           { sipsn___SkipEqual, { "=", Wanted::separator } },
+        { sipsn___SkipLaquot, { "<", Wanted::separator } }, { sipsn___SkipLws, { "a blank", Wanted::separator } },
+        { sipsn___SkipRaquot, { ">", Wanted::separator } }, { sipsn___SkipSemi, { ";", Wanted::separator } },
+        { sipsn___SkipSlash, { "/", Wanted::separator } },  { sipsn___SkipStar, { "*", Wanted::separator } },
     };
     const auto found = std::ranges::find( table, production, []( const auto &row ) { return row.production; } );
     PB_ASSERT( found != std::end( table ) );

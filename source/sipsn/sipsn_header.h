@@ -42,8 +42,8 @@
  *     void      sipsnHeaderAllowSetMethodsVector( SipsnHeaderAllow **hdr, PbVector *vec ); -- the texts of its elements
  *     bool      sipsnHeaderAllowHasMethod( SipsnHeaderAllow *hdr, PbString *method );
  *     void      sipsnHeaderAllowSetMethod( SipsnHeaderAllow **hdr, PbString *method );
- *     void      sipsnHeaderAllowDelMethod( SipsnHeaderAllow **hdr, PbString *method );     -- an absent one is not an
- * error void      sipsnHeaderAllowClearMethods( SipsnHeaderAllow **hdr );
+ *     void      sipsnHeaderAllowDelMethod( SipsnHeaderAllow **hdr, PbString *method );     -- an absent one is no error
+ *     void      sipsnHeaderAllowClearMethods( SipsnHeaderAllow **hdr );
  *
  * Tokens stand in ascending order; an invalid one aborts. */
 
