@@ -117,10 +117,10 @@ PbDict   *TryStoreSet( PbObj *given, const TextRule &rule );
 
 // ---- Rows ------------------------------------------------------------------------------------------
 
-// A row says which member it is about, its name in the schema and, for a parameter, on the wire; whether it may be absent,
-// and whether objects that differ in it differ at all. As for what rows do: `Take` reads `keyword EQUAL value` into the
-// member, or reads nothing and says so, and the parameter is then a generic one. `Write` writes a parameter that is
-// present. `TryStore` gives what the member keeps of a value from outside, null when it must not hold it.
+// A row says which member it is about, its name in the schema and, for a parameter, on the wire; whether it may be
+// absent, and whether objects that differ in it differ at all. As for what rows do: `Take` reads `keyword EQUAL value`
+// into the member, or reads nothing and says so, and the parameter is then a generic one. `Write` writes a parameter
+// that is present. `TryStore` gives what the member keeps of a value from outside, null when it must not hold it.
 
 // The row with one thing said otherwise.
 template< class Row, class Field > constexpr Row With( Row row, Field Row::*field, std::type_identity_t< Field > value )
@@ -132,7 +132,7 @@ template< class Row, class Field > constexpr Row With( Row row, Field Row::*fiel
 template< class T > struct TextRow
 {
     std::string_view name;
-    PbString *T::*member;
+    PbString *T::   *member;
     const TextRule  *rule;
     bool             optional = false;
     std::string_view param    = {};
@@ -170,14 +170,14 @@ template< class T > struct TextRow
 template< class T > struct IntRow
 {
     std::string_view name;
-    int64_t T::*member;
+    int64_t T::     *member;
     const IntRule   *rule;
     bool             optional = false;
     std::string_view param    = {};
     bool             read     = true;    // else the parameter is written, but read as a generic one
     bool T::*excludes         = nullptr; // the flag that does not stand beside it
-    bool compared             = true;
-    int64_t kind = rule->thousandths ? SIPSN_SCHEMA_KIND_THOUSANDTHS : SIPSN_SCHEMA_KIND_INTEGER;
+    bool     compared         = true;
+    int64_t  kind             = rule->thousandths ? SIPSN_SCHEMA_KIND_THOUSANDTHS : SIPSN_SCHEMA_KIND_INTEGER;
 
     template< class Link > [[gnu::always_inline]] bool Take( BasicCursor< Link > &in, T &value ) const
     {
@@ -206,14 +206,14 @@ template< class T > struct IntRow
 template< class T > struct FlagRow
 {
     std::string_view name;
-    bool T::*member;
+    bool T::        *member;
     std::string_view param;
-    bool             lenient = false;   // whether the parameter is read by its name alone, and what follows is left to fail
-    int64_t T::*excludes     = nullptr; // the number that does not stand beside it
-    bool compared            = true;
+    bool    lenient      = false;   // whether the parameter is read by its name alone, and what follows is left to fail
+    int64_t T::*excludes = nullptr; // the number that does not stand beside it
+    bool        compared = true;
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_FLAG;
-    static constexpr bool optional = true;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_FLAG;
+    static constexpr bool    optional = true;
 
     template< class Link > [[gnu::always_inline]] bool Take( BasicCursor< Link > &in, T &value ) const
     {
@@ -238,11 +238,11 @@ template< class T > struct FlagRow
 template< class T > struct AddressRow
 {
     std::string_view name;
-    InAddress *T::*member;
+    InAddress *T::  *member;
     std::string_view param;
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_ADDRESS;
-    static constexpr bool optional = true;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_ADDRESS;
+    static constexpr bool    optional = true;
 
     template< class Link > [[gnu::always_inline]] bool Take( BasicCursor< Link > &in, T &value ) const
     {
@@ -273,8 +273,8 @@ template< class T > struct VersionRow
     std::string_view name;
     SipsnVersion *T::*member;
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_VERSION;
-    static constexpr bool optional = false;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_VERSION;
+    static constexpr bool    optional = false;
 
     SipsnVersion *TryStore( PbObj *given ) const
     {
@@ -287,8 +287,8 @@ template< class T > struct TimeRow
     std::string_view name;
     PbTime *T::*member;
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_TIME;
-    static constexpr bool optional = false;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_TIME;
+    static constexpr bool    optional = false;
 
     PbTime *TryStore( PbObj *given ) const
     {
@@ -309,7 +309,7 @@ template< class T > struct ParamsRow
     }
 
     static constexpr std::string_view name     = "params";
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_PARAMETERS;
+    static constexpr int64_t          kind     = SIPSN_SCHEMA_KIND_PARAMETERS;
     static constexpr bool             optional = false;
 };
 
@@ -317,15 +317,15 @@ template< class T > struct ParamsRow
 template< class T > struct ListRow
 {
     std::string_view name;
-    PbVector *T::*member;
+    PbVector *T::    *member;
     Production       *item;                                 // what matches one
     FromChars        *stored = pbStringCreateFromCharsCopy; // how that is kept
     const TextRule   *rule   = nullptr;                     // of tokens
     const TypeRecord *type   = nullptr;                     // of values
     bool T::*star            = nullptr;                     // what "*" stands for instead of all items
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_LIST;
-    static constexpr bool optional = false;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_LIST;
+    static constexpr bool    optional = false;
 
     static PbVector *Initial() { return pbVectorCreate(); }
     PbVector        *TryStore( PbObj *given ) const { return TryStoreItems( given, item, rule, type ); }
@@ -337,11 +337,11 @@ template< class T > struct ListRow
 template< class T > struct SetRow
 {
     std::string_view name;
-    PbDict *T::*member;
+    PbDict *T::    *member;
     const TextRule *rule;
 
-    static constexpr int64_t kind = SIPSN_SCHEMA_KIND_SET;
-    static constexpr bool optional = false;
+    static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_SET;
+    static constexpr bool    optional = false;
 
     static PbDict *Initial() { return pb___DictCreateWithCapacity( 8 ); } // as many as most lists of methods have
     PbDict        *TryStore( PbObj *given ) const { return TryStoreSet( given, *rule ); }
@@ -368,13 +368,15 @@ template< class T > constexpr auto OptionalInt( std::string_view name, int64_t T
 
 // Parameters. In the schema they have their name on the wire, or the one given last.
 template< class T >
-constexpr auto TextParam( std::string_view param, PbString *T::*member, const TextRule &rule, std::string_view name = {} )
+constexpr auto TextParam( std::string_view param, PbString *T::*member, const TextRule &rule,
+                          std::string_view name = {} )
 {
     return TextRow< T >{
         .name = name.empty() ? param : name, .member = member, .rule = &rule, .optional = true, .param = param };
 }
 template< class T >
-constexpr auto QuotedParam( std::string_view param, PbString *T::*member, const TextRule &rule, std::string_view name = {} )
+constexpr auto QuotedParam( std::string_view param, PbString *T::*member, const TextRule &rule,
+                            std::string_view name = {} )
 {
     return With( TextParam( param, member, rule, name ), &TextRow< T >::quoted, true );
 }

@@ -1,5 +1,5 @@
-// The rules of the members that several types have: what such a text or number may be, how it is read, kept and written.
-// A rule that one type alone needs stands with that type. C++ only; never installed.
+// The rules of the members that several types have: what such a text or number may be, how it is read, kept and
+// written. A rule that one type alone needs stands with that type. C++ only; never installed.
 #pragma once
 
 #include "sipsn_branch.h"

@@ -19,7 +19,7 @@ constexpr const TypeRecord *types[] = {
 };
 
 constexpr const char *examples[] = {
-    // of those
+// of those
 #define TYPE( Type, example ) example,
 #include "sipsn_types.inc"
 };
