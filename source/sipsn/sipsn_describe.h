@@ -30,8 +30,8 @@ struct TextRecord
 
 struct TypeRecord
 {
-    SipsnSchemaType     shown;
-    PbSort             *sort;
+    SipsnSchemaType shown;
+    PbSort *( *sort )( void );
     const MemberRecord *members;
     PbObj *( *create )();
     TextRecord text;
@@ -209,7 +209,7 @@ inline constexpr auto memberRecords = MakeMemberRecords< T >( std::make_index_se
 template< class T > constexpr TypeRecord MakeTypeRecord( const char *name, TextRecord text = {} )
 {
     return { .shown   = { name, int64_t( memberRecords< T >.size() ) },
-             .sort    = pb::sortOf< T >,
+             .sort    = [] { return pb::sortOf< T >; },
              .members = memberRecords< T >.data(),
              .create  = [] { return pb::AsObj( New< T >() ); },
              .text    = text };

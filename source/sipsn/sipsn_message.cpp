@@ -3,10 +3,8 @@
 #include "sipsn_message.h"
 
 #include "sipsn_message_internal.h"
-#include "sipsn_value_internal.h"
 
 SIPSN_DEFINE_TYPE( SipsnMessage, sipsnMessage, SIPSN_MESSAGE, msg, msg, pb::sortNameAsText )
-SIPSN_DEFINE_SCHEMA( Message )
 
 // Takes over the reference of a request or a response.
 static SipsnMessage *CreateOwning( SipsnMessageFragment *fragment )

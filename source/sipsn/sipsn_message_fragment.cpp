@@ -6,14 +6,12 @@
 #include "sipsn_message_internal.h"
 #include "sipsn_method.h"
 #include "sipsn_reason_phrase.h"
-#include "sipsn_value_internal.h"
 
 #include <cstring>
 
 using sipsn::StringFrom;
 
 SIPSN_DEFINE_TYPE( SipsnMessageFragment, sipsnMessageFragment, SIPSN_MESSAGE_FRAGMENT, frag, frag, pb::sortNameAsText )
-SIPSN_DEFINE_SCHEMA( MessageFragment )
 
 static PbString *contentLengthName;
 

@@ -5,14 +5,12 @@
 #include "sipsn_message_internal.h"
 #include "sipsn_skip_internal.h"
 #include "sipsn_token_frame.h"
-#include "sipsn_value_internal.h"
 
 using sipsn::StringFrom;
 
 static PbString *MakeText( SipsnMessageHeader *header );
 
 SIPSN_DEFINE_TYPE( SipsnMessageHeader, sipsnMessageHeader, SIPSN_MESSAGE_HEADER, header, header, MakeText )
-SIPSN_DEFINE_SCHEMA( MessageHeader )
 
 static PbString *nameKey;
 static PbString *linesKey;

@@ -2,7 +2,6 @@
 #include "sipsn_message_stream_decoder.h"
 
 #include "sipsn_message_internal.h"
-#include "sipsn_value_internal.h"
 
 #include <algorithm>
 
@@ -26,7 +25,6 @@ struct SipsnMessageStreamDecoder
 
 PB_DEFINE_OBJECT( SipsnMessageStreamDecoder, sipsnMessageStreamDecoder, sipsn___sort_SIPSN_MESSAGE_STREAM_DECODER,
                   "SIPSN_MESSAGE_STREAM_DECODER", sipsn___module, decoder, decoder, pb::sortNameAsText )
-SIPSN_DEFINE_SCHEMA( MessageStreamDecoder )
 
 SipsnMessageStreamDecoder *sipsnMessageStreamDecoderCreate( void )
 {

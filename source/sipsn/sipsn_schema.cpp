@@ -3,7 +3,9 @@
 
 #include "sipsn_describe.h"
 #include "sipsn_header_names.h"
+#include "sipsn_message.h"
 #include "sipsn_message_internal.h"
+#include "sipsn_message_stream_decoder.h"
 #include "sipsn_token_frame.h"
 
 #include <cstring>
@@ -12,6 +14,22 @@ namespace {
 
 using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::Span, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted,
     sipsn::Watch;
+
+} // namespace
+
+// The types without members in the schema.
+namespace sipsn {
+
+#define HEADER( ... )
+#define VALUE( ... )
+#define OBJECT( Type )                                                                                                 \
+    constexpr TypeRecord schema##Type{                                                                                 \
+        .shown = { "Sipsn" #Type, 0 }, .sort = sipsn##Type##Sort, .members = nullptr, .create = nullptr, .text = {} };
+#include "sipsn_types.inc"
+
+} // namespace sipsn
+
+namespace {
 
 constexpr const TypeRecord *types[] = {
 #define TYPE( Type, ... ) &sipsn::schema##Type,
@@ -67,7 +85,7 @@ const ShapeRecord &ShapeOf( const SipsnSchemaFamily *family )
 
 const TypeRecord *FindRecord( PbSort *sort )
 {
-    const auto found = std::ranges::find( types, sort, []( auto *type ) { return type->sort; } );
+    const auto found = std::ranges::find( types, sort, []( auto *type ) { return type->sort(); } );
     return found == std::end( types ) ? nullptr : *found;
 }
 
@@ -329,7 +347,7 @@ static PbString *TryStoreItem( PbObj *given, sipsn::Production *item, const sips
                                const TypeRecord *type )
 {
     if( rule ) return sipsn::TryStoreText( given, *rule );
-    const bool isValue = given->sort == type->sort && sipsnSchemaComplete( given );
+    const bool isValue = given->sort == type->sort() && sipsnSchemaComplete( given );
     if( !isValue && !IsString( given ) ) return nullptr;
     pb::Ref    text{ isValue ? type->text.encode( given ) : pb::Retain( AsString( given ) ) };
     pb::Ref    value{ type->text.tryDecode( text->chs, text->length ) };

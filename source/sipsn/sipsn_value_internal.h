@@ -49,7 +49,3 @@ PB_END_DECLS
         { []( const PbChar *chs, int64_t length ) { return pb::AsObj( sipsn___##Type##TryDecode( chs, length ) ); },   \
           []( PbObj *value ) { return sipsn___##Type##Encode( reinterpret_cast< Sipsn##Type * >( value ) ); },         \
           []( sipsn::Span text, sipsn::Watch &watch ) { return sipsn::WatchForm( form, text, watch ); } } );
-
-// The record of a type that has no text form.
-#define SIPSN_DEFINE_SCHEMA( Type )                                                                                    \
-    constexpr sipsn::TypeRecord sipsn::schema##Type = sipsn::MakeTypeRecord< Sipsn##Type >( "Sipsn" #Type );

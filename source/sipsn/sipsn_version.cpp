@@ -7,10 +7,8 @@
 #include "sipsn_protocol_version.h"
 #include "sipsn_skip_internal.h"
 #include "sipsn_token_frame.h"
-#include "sipsn_value_internal.h"
 
 SIPSN_DEFINE_TYPE( SipsnVersion, sipsnVersion, SIPSN_VERSION, version, version, sipsn___VersionEncode )
-SIPSN_DEFINE_SCHEMA( Version )
 
 static SipsnVersion *sip20;
 
