@@ -185,7 +185,7 @@ def counted(path, text):
 
 WRITERS = {"families": families_register, "values": values_register, "types": types_register,
            "families_table": families_table, "values_table": values_table}
-BLOCK = re.compile(DIRECTIVE.pattern + r"(?:(?:(?!.*\./dev lists: ).*\n)*.*\./dev lists: end.*\n)?", re.MULTILINE)
+BLOCK = re.compile(DIRECTIVE.pattern + r"(?P<old>(?:(?!.*\./dev lists: ).*\n)*.*\./dev lists: end.*\n)?", re.MULTILINE)
 
 
 def filled(path):
@@ -195,6 +195,8 @@ def filled(path):
 
     def fill(match):
         word, arguments = match["word"], match["arguments"] or ""
+        if match["old"] is None and match.string[match.end():match.end() + 1].strip():
+            fail(path.name, f"has lines behind {word}, but no ./dev lists: end")
         heading = f"{word}( {arguments} )" if arguments else word
         if word in WRITERS:
             text = WRITERS[word]()
@@ -236,7 +238,8 @@ def write(path, text):
 
 def differences(path, text):
     """What tells a file from what it should be, shortly."""
-    standing, wanted = (path.read_text() if path.exists() else "").split("\n"), text.split("\n")
+    standing, wanted = ([" ".join(line.split()) for line in whole.split("\n")]
+                        for whole in (path.read_text() if path.exists() else "", text))
     lines = [f"+ {line}" for line in wanted if line not in standing] + [f"- {line}" for line in standing if line not in wanted]
     return [f"{path.relative_to(ROOT)} is not what ./dev lists writes:", *(lines[:20] or ["the order of its lines"])]
 
