@@ -2,6 +2,7 @@
 // something stands, cut with this. C++ only; never installed.
 #pragma once
 
+#include "pb/pb_buffer.h"
 #include "pb/pb_frame.h"
 
 #include <cstring>
