@@ -2,12 +2,13 @@
 // copying them, and borrow instead of retaining. Exported, but no part of the public interface; never installed.
 #pragma once
 
-#include "pb_buffer.h"
-#include "pb_dict.h"
 #include "pb_frame.h"
-#include "pb_vector.h"
 
 PB_BEGIN_DECLS
+
+typedef struct PbBuffer PbBuffer;
+typedef struct PbDict   PbDict;
+typedef struct PbVector PbVector;
 
 PB_API extern PbModule             pb___module;
 PB_API extern const PbModuleRecord pb___module_record;

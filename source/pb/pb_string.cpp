@@ -15,7 +15,8 @@
 
 struct PbString::Content
 {
-    static void    Free( PbString    &) {}
+    static void Free( PbString & ) {} // nothing to release
+
     static int64_t Compare( PbString &a, PbString &b )
     {
         const int64_t common = std::min( a.length, b.length );
@@ -440,7 +441,7 @@ PbVector *pbStringSplitChars( PbString *string, const PbChar *chs, int64_t count
     const bool          joinCrLf = cutsAt( '\r' ) && cutsAt( '\n' );
     const PbChar        highest  = count ? *std::max_element( chs, chsEnd ) : -1;
 
-    pb::Ref             pieces{ pbVectorCreate() };
+    pb::Ref             pieces{ pb___VectorCreateWithCapacity( 4 ) };
     const PbChar       *piece  = string->chs;
     const PbChar *const end    = piece + string->length;
     const auto          append = [ & ]( const PbChar *pieceEnd ) {
