@@ -19,16 +19,17 @@ struct PbBuffer
 
     struct Content
     {
-        static void    Free( PbBuffer    &) {}
-        static int64_t Compare( PbBuffer &a, PbBuffer &b );
+        static void Free( PbBuffer & ) {} // nothing to release
+
+        static int64_t   Compare( PbBuffer &a, PbBuffer &b );
+        static PbString *Text( PbBuffer *buffer );
     };
 };
 
 template<> PbBuffer *pb::NewFrom( PbBuffer *source );
 
-static PbString *MakeText( PbBuffer *buffer );
-
-PB_DEFINE_TYPE( PbBuffer, pbBuffer, pb___sort_PB_BUFFER, "PB_BUFFER", pb___module, buffer, buffer, MakeText )
+PB_DEFINE_TYPE( PbBuffer, pbBuffer, pb___sort_PB_BUFFER, "PB_BUFFER", pb___module, buffer, buffer,
+                PbBuffer::Content::Text )
 
 namespace {
 
@@ -120,7 +121,7 @@ int64_t PbBuffer::Content::Compare( PbBuffer &a, PbBuffer &b )
     return order != 0 ? order : pb::Kind< int64_t >::Compare( a.length, b.length );
 }
 
-static PbString *MakeText( PbBuffer *buffer )
+PbString *PbBuffer::Content::Text( PbBuffer *buffer )
 {
     PB_ASSERT( buffer->length <= INT64_MAX / 2 );
     PbString *text = pb___StringCreateUninitialized( 2 * buffer->length );

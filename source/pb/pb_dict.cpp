@@ -19,16 +19,15 @@ struct PbDict
 
     struct Content
     {
-        static void    Free( PbDict &dict );
-        static int64_t Compare( PbDict &a, PbDict &b );
+        static void      Free( PbDict &dict );
+        static int64_t   Compare( PbDict &a, PbDict &b );
+        static PbString *Text( PbDict *dict );
     };
 };
 
 template<> PbDict *pb::NewFrom( PbDict *source );
 
-static PbString *MakeText( PbDict *dict );
-
-PB_DEFINE_TYPE( PbDict, pbDict, pb___sort_PB_DICT, "PB_DICT", pb___module, dict, dict, MakeText )
+PB_DEFINE_TYPE( PbDict, pbDict, pb___sort_PB_DICT, "PB_DICT", pb___module, dict, dict, PbDict::Content::Text )
 
 namespace {
 
@@ -198,7 +197,7 @@ int64_t PbDict::Content::Compare( PbDict &a, PbDict &b )
     return pb::Kind< int64_t >::Compare( a.length, b.length );
 }
 
-static PbString *MakeText( PbDict *dict )
+PbString *PbDict::Content::Text( PbDict *dict )
 {
     pb::Ref text{ pbStringCreate() };
     for( int64_t i = 0; i < dict->length; ++i ) {

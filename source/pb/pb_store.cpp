@@ -11,7 +11,11 @@ struct PbStore
     static constexpr auto Members() { return pb::Members{ &PbStore::entries }; }
 };
 
-static PbString *MakeText( PbStore *store ) { return pbDictToString( store->entries ); }
+namespace {
+
+PbString *MakeText( PbStore *store ) { return pbDictToString( store->entries ); }
+
+} // namespace
 
 PB_DEFINE_TYPE( PbStore, pbStore, pb___sort_PB_STORE, "PB_STORE", pb___module, store, store, MakeText )
 

@@ -22,15 +22,17 @@ struct PbTime
     }
 };
 
-static PbString *MakeText( PbTime *time );
+namespace {
 
-PB_DEFINE_TYPE( PbTime, pbTime, pb___sort_PB_TIME, "PB_TIME", pb___module, time, time, MakeText )
-
-static PbString *MakeText( PbTime *time )
+PbString *MakeText( PbTime *time )
 {
     return pbStringCreateFromFormatCstr( "%04i-%02i-%02i %02i:%02i:%02i", -1, time->year, time->month, time->day,
                                          time->hour, time->minute, time->second );
 }
+
+} // namespace
+
+PB_DEFINE_TYPE( PbTime, pbTime, pb___sort_PB_TIME, "PB_TIME", pb___module, time, time, MakeText )
 
 namespace {
 

@@ -16,16 +16,16 @@ struct PbVector
 
     struct Content
     {
-        static void    Free( PbVector &vector );
-        static int64_t Compare( PbVector &a, PbVector &b );
+        static void      Free( PbVector &vector );
+        static int64_t   Compare( PbVector &a, PbVector &b );
+        static PbString *Text( PbVector *vector );
     };
 };
 
 template<> PbVector *pb::NewFrom( PbVector *source );
 
-static PbString *MakeText( PbVector *vector );
-
-PB_DEFINE_TYPE( PbVector, pbVector, pb___sort_PB_VECTOR, "PB_VECTOR", pb___module, vector, vector, MakeText )
+PB_DEFINE_TYPE( PbVector, pbVector, pb___sort_PB_VECTOR, "PB_VECTOR", pb___module, vector, vector,
+                PbVector::Content::Text )
 
 namespace {
 
@@ -102,7 +102,7 @@ int64_t PbVector::Content::Compare( PbVector &a, PbVector &b )
     return pb::Kind< int64_t >::Compare( a.length, b.length );
 }
 
-static PbString *MakeText( PbVector *vector )
+PbString *PbVector::Content::Text( PbVector *vector )
 {
     pb::Ref text{ pbStringCreate() };
     for( int64_t i = 0; i < vector->length; ++i ) {

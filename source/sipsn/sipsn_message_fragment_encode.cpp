@@ -97,7 +97,8 @@ private:
 
     static void VisitField( void *pieces, PbObj *field )
     {
-        auto *self   = static_cast< Pieces   *>( pieces );
+        auto *self = static_cast< Pieces * >( pieces );
+
         auto *header = reinterpret_cast< SipsnMessageHeader * >( field );
         if( header == self->contentLength_ )
             self->VisitContentLength();
