@@ -35,8 +35,6 @@ struct Options
     size_t                     bodyLines = 12;
 };
 
-constexpr const char *malformed = "malformed";
-
 // ---- JSON ------------------------------------------------------------------------------------------
 
 std::string Hex( std::string_view bytes )
@@ -66,26 +64,14 @@ Json LinesOf( SipsnMessageHeader *header )
     return lines;
 }
 
-Json DescribeItems( const std::vector< Item > &items )
-{
-    Json described = Json::array();
-    for( const Item &item : items )
-        described.push_back( item.value.is_null() ? Json{ { "error", malformed }, { "text", item.text } }
-                                                  : item.value );
-    return described;
-}
-
 Json DescribeHeader( SipsnMessageHeader *header, const Family *family )
 {
     Json described{ { "lines", LinesOf( header ) } };
     if( !family ) return described;
-    const auto typed = family->tryDecode( header );
-    if( !typed )
-        described[ "error" ] = malformed;
-    else if( family->shape == Shape::single )
-        described[ "members" ] = typed->members;
+    if( const auto typed = TryDecode( *family, header ) )
+        described[ KeyOf( *family ) ] = Describe( *family, *typed );
     else
-        described[ "items" ] = DescribeItems( typed->items );
+        described[ "error" ] = malformed;
     return described;
 }
 
@@ -210,11 +196,11 @@ Node MakeHeaderNode( const std::string &name, SipsnMessageHeader *header, const 
 {
     const Json lines = LinesOf( header );
     if( !family ) return MakeLinesNode( name, lines );
-    const auto typed = family->tryDecode( header );
+    const auto typed = TryDecode( *family, header );
     if( !typed ) return Marked( MakeLinesNode( name, lines ) );
     switch( family->shape ) {
-    case Shape::single: return MakeSingleNode( name, lines, typed->members );
-    case Shape::list: return MakeValuesNode( name, typed->items );
+    case SIPSN_SCHEMA_SHAPE_SINGLE: return MakeSingleNode( name, lines, typed->members );
+    case SIPSN_SCHEMA_SHAPE_LIST: return MakeValuesNode( name, typed->items );
     default: return MakeTokensNode( name, typed->items );
     }
 }

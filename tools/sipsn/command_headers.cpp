@@ -1,10 +1,8 @@
 // sipsn headers: the header fields that have a type.
 #include "commands.h"
-#include "family.h"
 #include "text.h"
 
 #include <algorithm>
-#include <map>
 #include <memory>
 
 namespace tool {
@@ -23,38 +21,25 @@ Examples:
   sipsn headers | grep -w list
   sipsn headers --json | jq -r '.[] | select( .compact ).name')";
 
-const char *NameOf( Shape shape )
+const char *NameOf( int64_t shape )
 {
     switch( shape ) {
-    case Shape::list: return "list";
-    case Shape::tokenList: return "token list";
-    case Shape::tokenSet: return "token set";
-    case Shape::single: return "value";
+    case SIPSN_SCHEMA_SHAPE_LIST: return "list";
+    case SIPSN_SCHEMA_SHAPE_TOKEN_LIST: return "token list";
+    case SIPSN_SCHEMA_SHAPE_TOKEN_SET: return "token set";
+    default: return "value";
     }
-    return "";
-}
-
-// Which letter stands for a name; the library knows which name stands for a letter.
-std::map< std::string, char > CompactForms()
-{
-    std::map< std::string, char > forms;
-    for( char letter = 'a'; letter <= 'z'; ++letter ) {
-        const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderCreateCstr( &letter, 1 ) };
-        forms[ Utf8( Owned{ sipsnMessageHeaderName( header.Get() ) } ) ] = letter;
-    }
-    return forms;
 }
 
 Json DescribeFamilies()
 {
-    Json       array = Json::array();
-    const auto forms = CompactForms();
-    for( const Family &family : Families() ) {
-        Json       described{ { "name", family.name } };
-        const auto compact = forms.find( family.name );
-        if( compact != forms.end() ) described[ "compact" ] = std::string( 1, compact->second );
-        described[ "holds" ]  = NameOf( family.shape );
-        described[ "origin" ] = family.origin;
+    Json array = Json::array();
+    for( int64_t at = 0; at < sipsnSchemaFamiliesLength(); ++at ) {
+        const SipsnSchemaFamily *family = sipsnSchemaFamilyAt( at );
+        Json                     described{ { "name", family->name } };
+        if( family->compact ) described[ "compact" ] = family->compact;
+        described[ "holds" ]  = NameOf( family->shape );
+        described[ "origin" ] = family->origin;
         array.push_back( described );
     }
     return array;

@@ -97,7 +97,8 @@ std::string ReasonNotToAnswer( SipsnMessage *message )
         const Family                &family = *FindFamily( name );
         const std::vector< BadLine > bad    = FindBadLines( family, header.Get() );
         if( !bad.empty() ) return bad[ 0 ].reason;
-        if( family.shape == Shape::list && family.tryDecode( header.Get() )->items.empty() ) return missing;
+        const auto typed = TryDecode( family, header.Get() );
+        if( family.shape == SIPSN_SCHEMA_SHAPE_LIST && typed->items.empty() ) return missing;
     }
     return {};
 }

@@ -3,11 +3,10 @@
 #include "describe.h"
 #include "text.h"
 
-#include "sipsn/sipsn_value_internal.h"
-
-#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <map>
 #include <memory>
-#include <optional>
 
 namespace tool {
 
@@ -24,49 +23,31 @@ Examples:
   sipsn value via 'SIP/2.0/UDP 192.0.2.1:5060;branch=z9hG4bK1;rport'
   sipsn value --json reason 'Q.850;cause=16;text="Normal call clearing"')";
 
-// A value that was decoded: its members and its canonical text.
-struct Value
+// "accept-encoding" for "SipsnAcceptEncoding".
+std::string NameOf( const SipsnSchemaType *type )
 {
-    Json        members;
-    std::string text;
-};
-
-template< auto tryDecode, auto encode > std::optional< Value > DecodeAs( PbString *text )
-{
-    const Owned value{ tryDecode( pbStringBacking( text ), pbStringLength( text ) ) };
-    if( !value ) return std::nullopt;
-    return Value{ Describe( value.Get() ), Utf8( Owned{ encode( value.Get() ) } ) };
+    std::string name;
+    for( const char letter : std::string_view( type->name ).substr( std::strlen( "Sipsn" ) ) ) {
+        if( std::isupper( letter ) && !name.empty() ) name += '-';
+        name += char( std::tolower( letter ) );
+    }
+    return name;
 }
 
-struct Type
+// The types whose values have a text of their own.
+std::map< std::string, const SipsnSchemaType * > Types()
 {
-    const char *name;
-    std::optional< Value > ( *tryDecode )( PbString *text );
-};
-
-constexpr Type types[] = {
-    { "accept", DecodeAs< sipsn___AcceptTryDecode, sipsn___AcceptEncode > },
-    { "accept-encoding", DecodeAs< sipsn___AcceptEncodingTryDecode, sipsn___AcceptEncodingEncode > },
-    { "alert-info", DecodeAs< sipsn___AlertInfoTryDecode, sipsn___AlertInfoEncode > },
-    { "call-info", DecodeAs< sipsn___CallInfoTryDecode, sipsn___CallInfoEncode > },
-    { "contact", DecodeAs< sipsn___ContactTryDecode, sipsn___ContactEncode > },
-    { "diversion", DecodeAs< sipsn___DiversionTryDecode, sipsn___DiversionEncode > },
-    { "error-info", DecodeAs< sipsn___ErrorInfoTryDecode, sipsn___ErrorInfoEncode > },
-    { "generic-param", DecodeAs< sipsn___GenericParamTryDecode, sipsn___GenericParamEncode > },
-    { "generic-params", DecodeAs< sipsn___GenericParamsTryDecode, sipsn___GenericParamsEncode > },
-    { "history-info", DecodeAs< sipsn___HistoryInfoTryDecode, sipsn___HistoryInfoEncode > },
-    { "identity-value", DecodeAs< sipsn___IdentityValueTryDecode, sipsn___IdentityValueEncode > },
-    { "reason", DecodeAs< sipsn___ReasonTryDecode, sipsn___ReasonEncode > },
-    { "route", DecodeAs< sipsn___RouteTryDecode, sipsn___RouteEncode > },
-    { "uui-value", DecodeAs< sipsn___UuiValueTryDecode, sipsn___UuiValueEncode > },
-    { "via", DecodeAs< sipsn___ViaTryDecode, sipsn___ViaEncode > },
-    { "warning-value", DecodeAs< sipsn___WarningValueTryDecode, sipsn___WarningValueEncode > },
-};
+    std::map< std::string, const SipsnSchemaType * > types;
+    for( int64_t at = 0; at < sipsnSchemaTypesLength(); ++at )
+        if( const SipsnSchemaType *type = sipsnSchemaTypeAt( at ); sipsnSchemaHasText( type ) )
+            types[ NameOf( type ) ] = type;
+    return types;
+}
 
 std::vector< std::string > TypeNames()
 {
     std::vector< std::string > names;
-    for( const Type &type : types ) names.emplace_back( type.name );
+    for( const auto &[ name, type ] : Types() ) names.push_back( name );
     return names;
 }
 
@@ -79,20 +60,18 @@ struct Options
 
 Status RunValue( const Options &options )
 {
-    const Type &type = *std::find_if( std::begin( types ), std::end( types ),
-                                      [ & ]( const Type &candidate ) { return candidate.name == options.type; } );
-
-    const Owned< PbString > text  = TryString( options.text );
-    const auto              value = text ? type.tryDecode( text.Get() ) : std::nullopt;
+    const Owned< PbString > text = TryString( options.text );
+    const Owned             value{ text ? sipsnSchemaTryDecode( Types().at( options.type ), text.Get() ) : nullptr };
     if( !value ) {
-        Complain( type.name, ( text ? "no such value: " : "not UTF-8: " ) + Quote( options.text ) );
+        Complain( options.type, ( text ? "no such value: " : "not UTF-8: " ) + Quote( options.text ) );
         return someFailed;
     }
-    if( options.json ) {
-        PrintJson( { { "type", type.name }, { "text", value->text }, { "members", value->members } } );
-        return allWell;
-    }
-    PrintTree( MakeValueNode( Paint( Ink::strong, Escape( value->text ) ), value->members ) );
+    const std::string canonical = Utf8( Owned{ sipsnSchemaEncode( value.Get() ) } );
+    const Json        members   = Describe( value.Get() );
+    if( options.json )
+        PrintJson( { { "type", options.type }, { "text", canonical }, { "members", members } } );
+    else
+        PrintTree( MakeValueNode( Paint( Ink::strong, Escape( canonical ) ), members ) );
     return allWell;
 }
 

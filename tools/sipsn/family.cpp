@@ -1,138 +1,31 @@
-// The header fields that have a type: the families of header types, and what each makes of a header field.
+// The header fields that have a type, and what the type makes of a header field.
 #include "family.h"
 
 #include "describe.h"
 #include "text.h"
 
-#include <algorithm>
-
 namespace tool {
 
 namespace {
 
-// ---- Decoding, once for each shape -----------------------------------------------------------------
+bool IsItems( int64_t kind ) { return kind == SIPSN_SCHEMA_KIND_LIST || kind == SIPSN_SCHEMA_KIND_SET; }
 
-template< auto tryDecode, auto release > std::optional< Typed > Single( SipsnMessageHeader *header )
+// A token is its text. A value keeps its text as it was received, and is decoded only here; all Contacts are "*".
+Json DescribeItem( const Family &family, const std::string &text )
 {
-    const Owned< std::remove_pointer_t< decltype( tryDecode( header ) ) >, release > hdr{ tryDecode( header ) };
-    if( !hdr ) return std::nullopt;
-    return Typed{ Describe( hdr.Get() ) };
+    if( !family.itemType ) return text;
+    const Owned value{ sipsnSchemaTryDecode( family.itemType, TryString( text ).Get() ) };
+    if( value ) return Describe( value.Get() );
+    return text == "*" ? Json( text ) : Json();
 }
 
-// Each value is encoded into a line of its own, which is its text as it was received.
-template< class Header >
-std::vector< Item > ValuesOf( Header *hdr, SipsnMessageHeader *( *encode )(Header *), auto tryDecodeAt )
+std::vector< Item > ItemsOf( const Family &family, PbObj *hdr )
 {
-    std::vector< Item >               items;
-    const Owned< SipsnMessageHeader > lines{ encode( hdr ) };
-    for( int64_t at = 0; at < sipsnMessageHeaderLinesLength( lines.Get() ); ++at ) {
-        const Owned value{ tryDecodeAt( hdr, at ) };
-        items.push_back( { Utf8( Owned{ sipsnMessageHeaderLineAt( lines.Get(), at ) } ),
-                           value ? Describe( value.Get() ) : Json() } );
-    }
+    std::vector< Item > items;
+    for( const Json &text : DescribeMember( hdr, ItemsMember( family ) ) )
+        items.push_back( { text, DescribeItem( family, text ) } );
     return items;
 }
-
-template< auto tryDecode, auto release, auto encode, auto tryDecodeAt >
-std::optional< Typed > Values( SipsnMessageHeader *header )
-{
-    const Owned< std::remove_pointer_t< decltype( tryDecode( header ) ) >, release > hdr{ tryDecode( header ) };
-    if( !hdr ) return std::nullopt;
-    return Typed{ {}, ValuesOf( hdr.Get(), encode, tryDecodeAt ) };
-}
-
-template< auto tryDecode, auto release, auto length, auto tokenAt >
-std::optional< Typed > Tokens( SipsnMessageHeader *header )
-{
-    const Owned< std::remove_pointer_t< decltype( tryDecode( header ) ) >, release > hdr{ tryDecode( header ) };
-    if( !hdr ) return std::nullopt;
-    Typed typed;
-    for( int64_t at = 0; at < length( hdr.Get() ); ++at ) {
-        const std::string token = Utf8( Owned{ tokenAt( hdr.Get(), at ) } );
-        typed.items.push_back( { token, token } );
-    }
-    return typed;
-}
-
-std::optional< Typed > Contacts( SipsnMessageHeader *header )
-{
-    const Owned< SipsnHeaderContact > hdr{ sipsnHeaderContactTryDecode( header ) };
-    if( !hdr ) return std::nullopt;
-    if( sipsnHeaderContactIsStarForm( hdr.Get() ) ) return Typed{ {}, { { "*", "*" } } };
-    return Typed{ {}, ValuesOf( hdr.Get(), sipsnHeaderContactEncode, sipsnHeaderContactTryDecodeContactAt ) };
-}
-
-// ---- The families ----------------------------------------------------------------------------------
-
-// How a family is decoded: the library's functions by the names of the type and of its items.
-#define SINGLE( Type ) Single< sipsnHeader##Type##TryDecode, sipsnHeader##Type##Release >
-#define VALUES( Type, Value )                                                                                          \
-    Values< sipsnHeader##Type##TryDecode, sipsnHeader##Type##Release, sipsnHeader##Type##Encode,                       \
-            sipsnHeader##Type##TryDecode##Value##At >
-#define TOKENS( Type, Tokens_, Token )                                                                                 \
-    Tokens< sipsnHeader##Type##TryDecode, sipsnHeader##Type##Release, sipsnHeader##Type##Tokens_##Length,              \
-            sipsnHeader##Type##Token##At >
-
-constexpr Family families[] = {
-    { "Accept", Shape::list, "RFC 3261", VALUES( Accept, Accept ) },
-    { "Accept-Encoding", Shape::list, "RFC 3261", VALUES( AcceptEncoding, AcceptEncoding ) },
-    { "Accept-Resource-Priority", Shape::tokenList, "RFC 4412", TOKENS( AcceptResourcePriority, Rvalues, Rvalue ) },
-    { "Alert-Info", Shape::list, "RFC 3261", VALUES( AlertInfo, AlertInfo ) },
-    { "Allow", Shape::tokenSet, "RFC 3261", TOKENS( Allow, Methods, Method ) },
-    { "Allow-Events", Shape::tokenSet, "RFC 6665", TOKENS( AllowEvents, EventTypes, EventType ) },
-    { "Call-Id", Shape::single, "RFC 3261", SINGLE( CallId ) },
-    { "Call-Info", Shape::list, "RFC 3261", VALUES( CallInfo, CallInfo ) },
-    { "Contact", Shape::list, "RFC 3261", Contacts },
-    { "Content-Disposition", Shape::single, "RFC 3261", SINGLE( ContentDisposition ) },
-    { "Content-Encoding", Shape::tokenList, "RFC 3261", TOKENS( ContentEncoding, ContentCodings, ContentCoding ) },
-    { "Cseq", Shape::single, "RFC 3261", SINGLE( Cseq ) },
-    { "Date", Shape::single, "RFC 3261", SINGLE( Date ) },
-    { "Diversion", Shape::list, "RFC 5806", VALUES( Diversion, Diversion ) },
-    { "Error-Info", Shape::list, "RFC 3261", VALUES( ErrorInfo, ErrorInfo ) },
-    { "Event", Shape::single, "RFC 6665", SINGLE( Event ) },
-    { "Expires", Shape::single, "RFC 3261", SINGLE( Expires ) },
-    { "From", Shape::single, "RFC 3261", SINGLE( From ) },
-    { "History-Info", Shape::list, "RFC 7044", VALUES( HistoryInfo, HistoryInfo ) },
-    { "In-Reply-To", Shape::tokenSet, "RFC 3261", TOKENS( InReplyTo, CallIds, CallId ) },
-    { "Max-Forwards", Shape::single, "RFC 3261", SINGLE( MaxForwards ) },
-    { "Min-Expires", Shape::single, "RFC 3261", SINGLE( MinExpires ) },
-    { "Min-Se", Shape::single, "RFC 4028", SINGLE( MinSe ) },
-    { "Organization", Shape::single, "RFC 3261", SINGLE( Organization ) },
-    { "P-Asserted-Identity", Shape::list, "RFC 3325", VALUES( PAssertedIdentity, IdentityValue ) },
-    { "P-Called-Party-Id", Shape::single, "RFC 7315", SINGLE( PCalledPartyId ) },
-    { "P-Early-Media", Shape::tokenList, "RFC 5009", TOKENS( PEarlyMedia, EmParams, EmParam ) },
-    { "P-Preferred-Identity", Shape::list, "RFC 3325", VALUES( PPreferredIdentity, IdentityValue ) },
-    { "Priority", Shape::single, "RFC 3261", SINGLE( Priority ) },
-    { "Privacy", Shape::tokenSet, "RFC 3323", TOKENS( Privacy, PrivValues, PrivValue ) },
-    { "Proxy-Require", Shape::tokenSet, "RFC 3261", TOKENS( ProxyRequire, OptionTags, OptionTag ) },
-    { "Rack", Shape::single, "RFC 3262", SINGLE( Rack ) },
-    { "Reason", Shape::list, "RFC 3326", VALUES( Reason, Reason ) },
-    { "Record-Route", Shape::list, "RFC 3261", VALUES( RecordRoute, Route ) },
-    { "Refer-To", Shape::single, "RFC 3515", SINGLE( ReferTo ) },
-    { "Referred-By", Shape::single, "RFC 3892", SINGLE( ReferredBy ) },
-    { "Remote-Party-Id", Shape::single, "draft-ietf-sip-privacy-04", SINGLE( RemotePartyId ) },
-    { "Replaces", Shape::single, "RFC 3891", SINGLE( Replaces ) },
-    { "Reply-To", Shape::single, "RFC 3261", SINGLE( ReplyTo ) },
-    { "Require", Shape::tokenSet, "RFC 3261", TOKENS( Require, OptionTags, OptionTag ) },
-    { "Resource-Priority", Shape::tokenList, "RFC 4412", TOKENS( ResourcePriority, Rvalues, Rvalue ) },
-    { "Retry-After", Shape::single, "RFC 3261", SINGLE( RetryAfter ) },
-    { "Route", Shape::list, "RFC 3261", VALUES( Route, Route ) },
-    { "Rseq", Shape::single, "RFC 3262", SINGLE( Rseq ) },
-    { "Server", Shape::single, "RFC 3261", SINGLE( Server ) },
-    { "Service-Route", Shape::list, "RFC 3608", VALUES( ServiceRoute, Route ) },
-    { "Session-Expires", Shape::single, "RFC 4028", SINGLE( SessionExpires ) },
-    { "Session-Id", Shape::single, "RFC 7989", SINGLE( SessionId ) },
-    { "Subject", Shape::single, "RFC 3261", SINGLE( Subject ) },
-    { "Subscription-State", Shape::single, "RFC 6665", SINGLE( SubscriptionState ) },
-    { "Supported", Shape::tokenSet, "RFC 3261", TOKENS( Supported, OptionTags, OptionTag ) },
-    { "Timestamp", Shape::single, "RFC 3261", SINGLE( Timestamp ) },
-    { "To", Shape::single, "RFC 3261", SINGLE( To ) },
-    { "Unsupported", Shape::tokenSet, "RFC 3261", TOKENS( Unsupported, OptionTags, OptionTag ) },
-    { "User-Agent", Shape::single, "RFC 3261", SINGLE( UserAgent ) },
-    { "User-To-User", Shape::list, "RFC 7433", VALUES( UserToUser, UuiValue ) },
-    { "Via", Shape::list, "RFC 3261", VALUES( Via, Via ) },
-    { "Warning", Shape::list, "RFC 3261", VALUES( Warning, Warning ) },
-};
 
 // ---- Lines at fault --------------------------------------------------------------------------------
 
@@ -150,7 +43,7 @@ Owned< SipsnMessageHeader > WithLines( SipsnMessageHeader *header, int64_t begin
 
 bool Decodes( const Family &family, SipsnMessageHeader *header, int64_t begin, int64_t end )
 {
-    return family.tryDecode( WithLines( header, begin, end ).Get() ).has_value();
+    return TryDecode( family, WithLines( header, begin, end ).Get() ).has_value();
 }
 
 std::string Malformed( const Family &family, std::string_view text )
@@ -160,7 +53,7 @@ std::string Malformed( const Family &family, std::string_view text )
 
 void AddBadItems( std::vector< BadLine > &bad, const Family &family, SipsnMessageHeader *header, int64_t index )
 {
-    const auto typed = family.tryDecode( WithLines( header, index, index + 1 ).Get() );
+    const auto typed = TryDecode( family, WithLines( header, index, index + 1 ).Get() );
     if( !typed ) {
         bad.push_back( { index, Malformed( family, Utf8( Owned{ sipsnMessageHeaderLineAt( header, index ) } ) ) } );
         return;
@@ -183,22 +76,53 @@ BadLine FindMisplacedLine( const Family &family, SipsnMessageHeader *header )
 
 } // namespace
 
-std::span< const Family > Families() { return families; }
-
-const Family *FindFamily( std::string_view canonicalName )
+const Family *FindFamily( std::string_view name )
 {
-    const auto *found = std::find_if( std::begin( families ), std::end( families ),
-                                      [ & ]( const Family &family ) { return family.name == canonicalName; } );
-    return found == std::end( families ) ? nullptr : found;
+    const Owned< PbString > text = TryString( name );
+    return text ? sipsnSchemaFamilyByName( text.Get() ) : nullptr;
+}
+
+std::optional< Typed > TryDecode( const Family &family, SipsnMessageHeader *header )
+{
+    const Owned hdr{ sipsnSchemaTryDecodeHeader( &family, header ) };
+    if( !hdr ) return std::nullopt;
+    if( family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ) return Typed{ Describe( hdr.Get() ) };
+    return Typed{ {}, ItemsOf( family, hdr.Get() ) };
+}
+
+const char *KeyOf( const Family &family ) { return family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ? "members" : "items"; }
+
+Json Describe( const Family &family, const Typed &typed )
+{
+    if( family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ) return typed.members;
+    Json items = Json::array();
+    for( const Item &item : typed.items )
+        items.push_back( item.value.is_null() ? Json{ { "error", malformed }, { "text", item.text } } : item.value );
+    return items;
+}
+
+int64_t ItemsMember( const Family &family )
+{
+    int64_t member = 0;
+    while( !IsItems( sipsnSchemaMemberAt( family.type, member )->kind ) ) ++member;
+    return member;
+}
+
+std::optional< Reason > WhyNotLine( const Family &family, PbString *line )
+{
+    int64_t     place = 0;
+    const Owned words{ sipsnSchemaWhyNotLine( &family, line, &place ) };
+    if( !words ) return std::nullopt;
+    return Reason{ Utf8( words ), place };
 }
 
 std::vector< BadLine > FindBadLines( const Family &family, SipsnMessageHeader *header )
 {
     std::vector< BadLine > bad;
     const int64_t          length = sipsnMessageHeaderLinesLength( header );
-    const int64_t          first  = family.shape == Shape::single ? length - 1 : 0; // of which the last line counts
+    const int64_t first = family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ? length - 1 : 0; // of which the last line counts
     for( int64_t at = first; at < length; ++at ) AddBadItems( bad, family, header, at );
-    if( bad.empty() && !family.tryDecode( header ) ) bad.push_back( FindMisplacedLine( family, header ) );
+    if( bad.empty() && !TryDecode( family, header ) ) bad.push_back( FindMisplacedLine( family, header ) );
     return bad;
 }
 

@@ -1,24 +1,20 @@
-// The header fields that have a type: the families of header types, and what each makes of a header field.
+// The header fields that have a type, and what the type makes of a header field.
 #pragma once
 
 #include "output.h"
 #include "owned.h"
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tool {
 
-enum class Shape
-{
-    list, // of values
-    tokenList,
-    tokenSet,
-    single
-};
+using Family = SipsnSchemaFamily;
+
+// Null when the header field has no type.
+const Family *FindFamily( std::string_view name );
 
 // An item of a list or a set: a token as a text, a value as its members; null for a value that does not decode, which
 // its list does not look into.
@@ -34,19 +30,25 @@ struct Typed
     Json                members = Json::object();
     std::vector< Item > items   = {};
 };
+std::optional< Typed > TryDecode( const Family &family, SipsnMessageHeader *header );
 
-struct Family
+inline constexpr const char *malformed = "malformed";
+
+// The same as decode --json has it, under "members" or "items".
+const char *KeyOf( const Family &family );
+Json        Describe( const Family &family, const Typed &typed );
+
+// The member of a header type that holds its items.
+int64_t ItemsMember( const Family &family );
+
+// Why a line by itself is not one of the header field, in words, and the index of the character at which it stops to be
+// one.
+struct Reason
 {
-    const char *name; // canonical
-    Shape       shape;
-    const char *origin; // the document that says what it is now
-    std::optional< Typed > ( *tryDecode )( SipsnMessageHeader *header );
+    std::string words;
+    int64_t     place;
 };
-
-std::span< const Family > Families();
-
-// Null when the header field has no type.
-const Family *FindFamily( std::string_view canonicalName );
+std::optional< Reason > WhyNotLine( const Family &family, PbString *line );
 
 // A line of a header field that its type refuses, from 0, and why, fit to be printed.
 struct BadLine

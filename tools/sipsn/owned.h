@@ -10,32 +10,17 @@ namespace tool {
 // How an object is released; one line for each type that the tool holds.
 template< class T > inline constexpr void ( *releaseOf )( T * ) = nullptr;
 
+template<> inline constexpr auto releaseOf< PbObj >                     = pbObjRelease;
 template<> inline constexpr auto releaseOf< PbString >                  = pbStringRelease;
 template<> inline constexpr auto releaseOf< PbBuffer >                  = pbBufferRelease;
 template<> inline constexpr auto releaseOf< PbVector >                  = pbVectorRelease;
-template<> inline constexpr auto releaseOf< PbTime >                    = pbTimeRelease;
-template<> inline constexpr auto releaseOf< InAddress >                 = inAddressRelease;
 template<> inline constexpr auto releaseOf< SipsnVersion >              = sipsnVersionRelease;
 template<> inline constexpr auto releaseOf< SipsnMessage >              = sipsnMessageRelease;
 template<> inline constexpr auto releaseOf< SipsnMessageFragment >      = sipsnMessageFragmentRelease;
 template<> inline constexpr auto releaseOf< SipsnMessageHeader >        = sipsnMessageHeaderRelease;
 template<> inline constexpr auto releaseOf< SipsnMessageStreamDecoder > = sipsnMessageStreamDecoderRelease;
-template<> inline constexpr auto releaseOf< SipsnAccept >               = sipsnAcceptRelease;
-template<> inline constexpr auto releaseOf< SipsnAcceptEncoding >       = sipsnAcceptEncodingRelease;
-template<> inline constexpr auto releaseOf< SipsnAlertInfo >            = sipsnAlertInfoRelease;
-template<> inline constexpr auto releaseOf< SipsnCallInfo >             = sipsnCallInfoRelease;
 template<> inline constexpr auto releaseOf< SipsnContact >              = sipsnContactRelease;
-template<> inline constexpr auto releaseOf< SipsnDiversion >            = sipsnDiversionRelease;
-template<> inline constexpr auto releaseOf< SipsnErrorInfo >            = sipsnErrorInfoRelease;
 template<> inline constexpr auto releaseOf< SipsnGenericParam >         = sipsnGenericParamRelease;
-template<> inline constexpr auto releaseOf< SipsnGenericParams >        = sipsnGenericParamsRelease;
-template<> inline constexpr auto releaseOf< SipsnHistoryInfo >          = sipsnHistoryInfoRelease;
-template<> inline constexpr auto releaseOf< SipsnIdentityValue >        = sipsnIdentityValueRelease;
-template<> inline constexpr auto releaseOf< SipsnReason >               = sipsnReasonRelease;
-template<> inline constexpr auto releaseOf< SipsnRoute >                = sipsnRouteRelease;
-template<> inline constexpr auto releaseOf< SipsnUuiValue >             = sipsnUuiValueRelease;
-template<> inline constexpr auto releaseOf< SipsnVia >                  = sipsnViaRelease;
-template<> inline constexpr auto releaseOf< SipsnWarningValue >         = sipsnWarningValueRelease;
 template<> inline constexpr auto releaseOf< SipsnHeaderContact >        = sipsnHeaderContactRelease;
 template<> inline constexpr auto releaseOf< SipsnHeaderTo >             = sipsnHeaderToRelease;
 
