@@ -10,8 +10,8 @@
 
 namespace sipsn {
 
-// Between these the names are known. Names that were shared before the start are taken as they are, so that a family's
-// name constant and the name of a decoded header field are the same string.
+// Creates the names when the library starts, and drops them when it stops. A family shares its name constant before the
+// start, so that the constant and the name of a decoded header field are the same string.
 void ShareHeaderName( PbString *name );
 void StartHeaderNames();
 void StopHeaderNames();

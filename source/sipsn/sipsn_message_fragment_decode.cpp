@@ -127,7 +127,7 @@ public:
             pb___DictSetOwned( headers_, name, pb::AsObj( CreateHeader( pb::Retain( name ), value ) ) );
     }
 
-    // Whichever are fewer are inserted among the rest.
+    // Builds the dictionary from the larger group, known names or others, and inserts the smaller one into it.
     void MoveToDict()
     {
         frag_->mayHold               = int64_t( present_[ 0 ] );

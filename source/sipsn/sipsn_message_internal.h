@@ -46,7 +46,7 @@ struct SipsnMessageFragment
     PbString     *responseReasonPhrase;
     SipsnVersion *version;
     PbDict       *headers;            // canonical name to SipsnMessageHeader
-    int64_t       mayHold, mayHold64; // a bit for each known name of which there may be one; all ones know nothing
+    int64_t       mayHold, mayHold64; // a bit for each known name: clear when there is no such header field
     PbBuffer     *body;
 
     static constexpr auto Members()
@@ -159,7 +159,8 @@ inline SipsnMessageHeader *PeekHeader( SipsnMessageFragment *frag, PbString *can
     return reinterpret_cast< SipsnMessageHeader * >( pb___DictPeek( frag->headers, canonicalName ) );
 }
 
-// Whether there may be a header of the known name of that number. Decoding tells exactly, setting a header forgets it.
+// Whether there may be a header of the known name of that number. After decoding the answer is exact; setting a header
+// sets all bits.
 inline bool MayHold( const SipsnMessageFragment *frag, int64_t number )
 {
     return ( ( number < 64 ? frag->mayHold : frag->mayHold64 ) >> ( number % 64 ) & 1 ) != 0;
