@@ -23,17 +23,19 @@ void Watch::Missed( const PbChar *at, Wanted what )
 // Separators are not worth telling.
 void Watch::Took( Span text, Wanted what )
 {
-    if( what.kind == Wanted::separator ) return;
+    if( what.kind == Wanted::separator || what.kind == Wanted::blank ) return;
     last_    = what;
     lastEnd_ = text.chs + text.length;
 }
 
-void Watch::Refused( Span text, std::string_view words )
+void Watch::Refused( Span text, std::string_view words, int64_t from, int64_t to )
 {
     const PbChar *end = text.chs + text.length;
     if( farthest && end < farthest ) return;
     farthest    = end;
     refused     = text;
+    lowest      = from;
+    highest     = to;
     wanted[ 0 ] = { words };
     wantedCount = 1;
 }
@@ -47,7 +49,7 @@ Wanted WordsOf( Production *production )
     } table[] = {
         { sipsn___SkipColon, { ":", Wanted::separator } },  { sipsn___SkipComma, { ",", Wanted::separator } },
         { sipsn___SkipComment, { "a comment" } },           { sipsn___SkipEqual, { "=", Wanted::separator } },
-        { sipsn___SkipLaquot, { "<", Wanted::separator } }, { sipsn___SkipLws, { "a blank", Wanted::separator } },
+        { sipsn___SkipLaquot, { "<", Wanted::separator } }, { sipsn___SkipLws, { "a blank", Wanted::blank } },
         { sipsn___SkipRaquot, { ">", Wanted::separator } }, { sipsn___SkipSemi, { ";", Wanted::separator } },
         { sipsn___SkipSlash, { "/", Wanted::separator } },  { sipsn___SkipStar, { "*", Wanted::separator } },
     };

@@ -46,7 +46,8 @@ struct Wanted
     {
         named,
         literal,
-        separator
+        separator,
+        blank // a separator that has a name
     };
 
     std::string_view words;
@@ -61,10 +62,11 @@ struct Watch
     size_t                  wantedCount = 0;
     Wanted                  before{};  // what was read last before it
     Span                    refused{}; // what ends there and has the right form, but is not wanted[ 0 ]: "300"
+    int64_t                 lowest = 0, highest = -1; // what it might have been, when that is a number
 
     void Missed( const PbChar *at, Wanted what );
     void Took( Span text, Wanted what );
-    void Refused( Span text, std::string_view words );
+    void Refused( Span text, std::string_view words, int64_t from, int64_t to );
 
 private:
     Wanted        last_{};
@@ -76,7 +78,7 @@ struct Unwatched
 {
     void Missed( const PbChar *, Wanted ) const {}
     void Took( Span, Wanted ) const {}
-    void Refused( Span, std::string_view ) const {}
+    void Refused( Span, std::string_view, int64_t, int64_t ) const {}
 };
 struct Watched
 {
@@ -84,7 +86,10 @@ struct Watched
 
     void Missed( const PbChar *at, Wanted what ) const { watch->Missed( at, what ); }
     void Took( Span text, Wanted what ) const { watch->Took( text, what ); }
-    void Refused( Span text, std::string_view words ) const { watch->Refused( text, words ); }
+    void Refused( Span text, std::string_view words, int64_t from, int64_t to ) const
+    {
+        watch->Refused( text, words, from, to );
+    }
 };
 
 // What decoders call the productions that they take without saying what for. Another one aborts.
@@ -173,10 +178,11 @@ public:
         return found;
     }
 
-    // Says that a text just taken has the right form, but is not what the words say. Always false.
-    bool Refuse( Span text, std::string_view words ) const
+    // Says that a text just taken has the right form, but is not what the words say, or not a number from `from` to
+    // `to`. Always false.
+    bool Refuse( Span text, std::string_view words, int64_t from = 0, int64_t to = -1 ) const
     {
-        link_.Refused( text, words );
+        link_.Refused( text, words, from, to );
         return false;
     }
 

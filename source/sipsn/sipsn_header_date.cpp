@@ -66,7 +66,7 @@ struct Form
         pbTimeSetMinute( time.Slot(), read.minute );
         pbTimeSetSecond( time.Slot(), read.second );
         const bool good = pbTimeValid( time.Get() ) && pbTimeWeekday( time.Get() ) == read.weekday;
-        if( !good && !in.Refuse( line, "a date that exists, on its weekday" ) ) return nullptr;
+        if( !good && !in.Refuse( line, "a date that exists and falls on that weekday" ) ) return nullptr;
         return sipsn::NewWith( &SipsnHeaderDate::time, time.Detach() );
     }
 

@@ -73,7 +73,7 @@ template< class Link > [[gnu::always_inline]] inline int64_t TryTake( BasicCurso
     if( !text ) return IntRule::absent;
     const int64_t number = rule.decoded( text.chs, text.length );
     if( number >= rule.lowest && number <= rule.highest ) return number;
-    in.Refuse( text, rule.words );
+    in.Refuse( text, rule.words, rule.lowest, rule.highest );
     return IntRule::absent;
 }
 

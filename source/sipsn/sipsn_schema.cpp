@@ -276,7 +276,8 @@ void WriteQuoted( TextWriter &out, auto write )
 // "a host" and "the host", or "\";\"".
 void WriteWanted( TextWriter &out, const Wanted &wanted, bool known )
 {
-    if( wanted.kind != Wanted::named ) return WriteQuoted( out, [ & ] { out.Ascii( wanted.words ); } );
+    if( wanted.kind == Wanted::literal || wanted.kind == Wanted::separator )
+        return WriteQuoted( out, [ & ] { out.Ascii( wanted.words ); } );
     std::string_view words = wanted.words;
     if( known ) {
         out.Ascii( "the " );
@@ -285,12 +286,24 @@ void WriteWanted( TextWriter &out, const Wanted &wanted, bool known )
     out.Ascii( words );
 }
 
+// " (0 to 255)", where there are such limits.
+void WriteLimits( TextWriter &out, int64_t lowest, int64_t highest )
+{
+    if( highest < lowest || highest == INT64_MAX ) return;
+    out.Ascii( " (" );
+    out.Int( lowest );
+    out.Ascii( " to " );
+    out.Int( highest );
+    out.Char( ')' );
+}
+
 void WriteReason( TextWriter &out, const Watch &watch )
 {
     if( watch.refused ) {
         WriteQuoted( out, [ & ] { out.Chars( watch.refused.chs, watch.refused.length ); } );
         out.Ascii( " is not " );
-        return WriteWanted( out, watch.wanted[ 0 ], false );
+        WriteWanted( out, watch.wanted[ 0 ], false );
+        return WriteLimits( out, watch.lowest, watch.highest );
     }
     out.Ascii( "expected " );
     for( size_t at = 0; at < watch.wantedCount; ++at ) {
