@@ -1,9 +1,12 @@
-// Short ways between C++ texts and PbString, and a deleter for references, for the tests.
+// Short ways between C++ texts and PbString, and what several tests expect.
 #pragma once
 
 #include "pb/pb.h"
 #include "pb/pb_frame.h"
 
+#include <gmock/gmock.h>
+
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -34,4 +37,32 @@ inline std::string Take( PbString *owned )
 {
     pb::Ref string{ owned };
     return Text( string.Get() );
+}
+
+// A text that has "|" behind what is matched of it.
+struct MarkedText
+{
+    std::basic_string< PbChar > all; // without the mark
+    int64_t                     matched;
+
+    explicit MarkedText( std::string_view utf8 )
+        : all{ Chars( utf8.substr( 0, utf8.find( '|' ) ) ) }, matched{ int64_t( all.size() ) }
+    {
+        all += Chars( utf8.substr( utf8.find( '|' ) + 1 ) );
+    }
+};
+
+// The call ends the process because this condition failed.
+#define EXPECT_ABORT( condition, ... )                                                                                 \
+    EXPECT_DEATH( __VA_ARGS__, testing::HasSubstr( "condition \"" condition "\" failed" ) )
+
+// Objects that are given in ascending order compare so, each with each.
+template< class Objects, class Compare > void ExpectAscending( const Objects &objects, Compare compare )
+{
+    for( auto a = std::begin( objects ); a != std::end( objects ); ++a )
+        for( auto b = std::begin( objects ); b != std::end( objects ); ++b ) {
+            const int64_t order = compare( a->Get(), b->Get() );
+            EXPECT_EQ( ( order > 0 ) - ( order < 0 ), ( a > b ) - ( a < b ) )
+                << std::distance( std::begin( objects ), a ) << " and " << std::distance( std::begin( objects ), b );
+        }
 }

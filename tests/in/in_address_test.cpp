@@ -4,8 +4,6 @@
 #include "text.h"
 
 #include <arpa/inet.h>
-#include <cstring>
-#include <gtest/gtest.h>
 #include <random>
 #include <vector>
 
@@ -24,6 +22,7 @@ std::string Bytes( InAddress *address )
              size_t( pbBufferLength( bytes.Get() ) ) };
 }
 
+// Beside what the C library writes: an IPv4 address has a dotted quad behind ::ffff: alone (RFC 5952 section 5).
 TEST( InAddress, TextIsThatOfRfc5952 )
 {
     static constexpr struct
@@ -31,25 +30,9 @@ TEST( InAddress, TextIsThatOfRfc5952 )
         const char *text;
         const char *canonical;
     } cases[] = {
-        { "192.0.2.9", "192.0.2.9" },
-        { "0.0.0.0", "0.0.0.0" },
         { "255.255.255.255", "255.255.255.255" },
-        // section 4.1, leading zeros; 4.2.1, as short as possible; 4.2.2, one zero group; 4.2.3, which run; 4.3, case
-        { "2001:0db8:0000:0000:0001:0000:0000:0001", "2001:db8::1:0:0:1" },
-        { "2001:db8:0:0:0:0:2:1", "2001:db8::2:1" },
-        { "2001:db8::1:1:1:1:1", "2001:db8:0:1:1:1:1:1" },
-        { "2001:0:0:1:0:0:0:1", "2001:0:0:1::1" },
-        { "2001:db8:0:0:1:0:0:1", "2001:db8::1:0:0:1" },
         { "2001:DB8:AaaA::FfFf", "2001:db8:aaaa::ffff" },
-        { "0:0:0:0:0:0:0:0", "::" },
-        { "0:0:0:0:0:0:0:1", "::1" },
-        { "1:0:0:0:0:0:0:0", "1::" },
-        { "1:2:3:4:5:6:7::", "1:2:3:4:5:6:7:0" },
-        { "1:2:3:4:5:6:0:0", "1:2:3:4:5:6::" },
-        { "fe80:1111:2222:3333:4444:5555:6666:7777", "fe80:1111:2222:3333:4444:5555:6666:7777" },
-        // section 5, IPv4-mapped and others that were written with a dotted quad
-        { "::ffff:c000:209", "::ffff:192.0.2.9" },
-        { "::FFFF:192.0.2.9", "::ffff:192.0.2.9" },
+        { "::FFFF:c000:209", "::ffff:192.0.2.9" },
         { "::ffff:0:0", "::ffff:0.0.0.0" },
         { "::192.0.2.9", "::c000:209" },
         { "64:ff9b::192.0.2.9", "64:ff9b::c000:209" },
@@ -66,58 +49,52 @@ TEST( InAddress, TextIsThatOfRfc5952 )
 
 TEST( InAddress, WhatIsNotWhollyAnAddressIsNone )
 {
-    for( const char *text : { "",
-                              "1.2.3",
-                              "1.2.3.4.5",
-                              "1.2.3.04",
-                              "1.2.3.256",
-                              " 1.2.3.4",
-                              "1.2.3.4 ",
-                              "[::1]",
-                              "::1%1",
-                              "::1]",
-                              ":",
-                              ":::",
-                              "1:2:3:4:5:6:7",
-                              "1:2:3:4:5:6:7:8:9",
-                              "1::2::3",
-                              "12345::",
-                              "::g",
-                              "::1.2.3",
-                              "1:2:3:4:5:6:7:1.2.3.4",
-                              "host",
-                              "\u0661.2.3.4" } )
+    for( const char *text : { "", "1.2.3.4 ", " ::1", "[::1]", "::1%1", "host", "\u0661.2.3.4" } )
         EXPECT_FALSE( Address( text ) ) << text;
-    EXPECT_FALSE( pb::Ref{ inAddressTryCreateFromChars( nullptr, 0 ) } );
 }
 
-// The bytes are those that the C library reads from any form of the text, and the canonical text leads back to them.
-TEST( InAddress, ValueAgreesWithTheCLibrary )
+std::string RandomAddress( std::mt19937 &random )
+{
+    std::string text;
+    if( random() % 8 == 0 ) {
+        for( auto octets = random() % 6; octets > 0; --octets )
+            text += ( text.empty() ? "" : "." ) + std::to_string( random() % 300 );
+        return text;
+    }
+    const auto groups = random() % 10;
+    for( unsigned group = 0; group < groups; ++group ) {
+        char digits[ 8 ];
+        snprintf( digits, sizeof digits, random() % 2 ? "%04X" : "%x",
+                  random() % 3 ? 0u : unsigned( random() ) >> random() % 16 & 0xFFFF );
+        if( group > 0 || random() % 8 == 0 ) text += random() % 6 ? ":" : "::";
+        text += digits;
+    }
+    if( random() % 8 == 0 ) text += "::";
+    if( random() % 4 == 0 ) text += ":1.20.255.0";
+    return text;
+}
+
+TEST( InAddress, ValueAndTextAgreeWithTheCLibrary )
 {
     std::mt19937 random{ 1 };
     for( int round = 0; round < 50'000; ++round ) {
-        std::string text;
-        const auto  groups = random() % 10;
-        for( unsigned group = 0; group < groups; ++group ) {
-            char digits[ 8 ];
-            snprintf( digits, sizeof digits, random() % 2 ? "%04X" : "%x",
-                      random() % 3 ? 0u : unsigned( random() ) >> random() % 16 & 0xFFFF );
-            if( group > 0 || random() % 8 == 0 ) text += random() % 6 ? ":" : "::";
-            text += digits;
-        }
-        if( random() % 8 == 0 ) text += "::";
-        if( random() % 4 == 0 ) text += ":1.20.255.0";
+        const std::string text    = RandomAddress( random );
+        const bool        isV4    = text.find( ':' ) == text.npos;
+        const auto        address = Address( text );
 
-        in6_addr   expected;
-        const bool valid   = inet_pton( AF_INET6, text.c_str(), &expected ) == 1;
-        const auto address = Address( text );
+        char       expected[ 16 ];
+        const bool valid = inet_pton( isV4 ? AF_INET : AF_INET6, text.c_str(), expected ) == 1;
         ASSERT_EQ( bool( address ), valid ) << text;
         if( !valid ) continue;
-        ASSERT_EQ( Bytes( address.Get() ), std::string( reinterpret_cast< const char * >( &expected ), 16 ) ) << text;
+        ASSERT_EQ( Bytes( address.Get() ), std::string( expected, isV4 ? 4 : 16 ) ) << text;
 
-        const std::string canonical = Take( inAddressToStringShrink( address.Get() ) );
-        ASSERT_EQ( inet_pton( AF_INET6, canonical.c_str(), &expected ), 1 ) << text << " " << canonical;
-        ASSERT_EQ( Bytes( address.Get() ), std::string( reinterpret_cast< const char * >( &expected ), 16 ) ) << text;
+        char canonical[ INET6_ADDRSTRLEN ];
+        inet_ntop( isV4 ? AF_INET : AF_INET6, expected, canonical, sizeof canonical );
+        const bool isCompatible = !isV4 && std::string( canonical ).find_first_of( '.' ) != std::string::npos &&
+                                  std::string_view( canonical ).substr( 0, 7 ) != "::ffff:";
+        if( !isCompatible ) {
+            ASSERT_EQ( Take( inAddressToStringShrink( address.Get() ) ), canonical ) << text;
+        }
     }
 }
 
@@ -135,24 +112,20 @@ TEST( InAddress, FamilyAndBytes )
 
 TEST( InAddress, OrderIsByFamilyThenByUnsignedBytes )
 {
-    const char *const ascending[] = { "0.0.0.0", "1.2.3.4", "127.255.255.255", "128.0.0.0", "255.255.255.255",
-                                      "::",      "::1",     "::8000:0:0:0",    "0:0:0:1::", "7fff::",
-                                      "8000::",  "ffff::" };
-    for( size_t a = 0; a < std::size( ascending ); ++a )
-        for( size_t b = 0; b < std::size( ascending ); ++b ) {
-            const int64_t order = inAddressCompare( Address( ascending[ a ] ).Get(), Address( ascending[ b ] ).Get() );
-            EXPECT_EQ( ( order > 0 ) - ( order < 0 ), ( a > b ) - ( a < b ) )
-                << ascending[ a ] << " " << ascending[ b ];
-        }
+    std::vector< pb::Ref< InAddress > > ascending;
+    for( const char *text : { "0.0.0.0", "1.2.3.4", "127.255.255.255", "128.0.0.0", "255.255.255.255", "::", "::1",
+                              "::8000:0:0:0", "0:0:0:1::", "7fff::", "8000::", "ffff::" } )
+        ascending.push_back( Address( text ) );
+    ExpectAscending( ascending, inAddressCompare );
 }
 
 TEST( InAddressDeathTest, MisuseAborts )
 {
     const PbChar ch = '1';
-    EXPECT_DEATH( inAddressTryCreateFromChars( &ch, -1 ), "length >= 0" );
-    EXPECT_DEATH( inAddressTryCreateFromChars( nullptr, 1 ), "chs \\|\\| length == 0" );
-    EXPECT_DEATH( inAddressToStringShrink( nullptr ), "address" );
-    EXPECT_DEATH( inAddressBytes( nullptr ), "address" );
+    EXPECT_ABORT( "length >= 0", inAddressTryCreateFromChars( &ch, -1 ) );
+    EXPECT_ABORT( "chs || length == 0", inAddressTryCreateFromChars( nullptr, 1 ) );
+    EXPECT_ABORT( "address", inAddressToStringShrink( nullptr ) );
+    EXPECT_ABORT( "address", inAddressBytes( nullptr ) );
 }
 
 } // namespace

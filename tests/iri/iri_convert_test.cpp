@@ -3,7 +3,6 @@
 
 #include "text.h"
 
-#include <gtest/gtest.h>
 #include <random>
 #include <vector>
 
@@ -27,21 +26,14 @@ TEST( IriConvert, FromUriTurnsEscapesIntoWhatAnIriMayHold )
         { "sip:\u200F\u202Ax", "sip:%E2%80%8F%E2%80%AAx" },
         { "sip:%EF%BF%BD%EF%B7%90%F3%A0%80%81", "sip:%EF%BF%BD%EF%B7%90%F3%A0%80%81" }, // U+FFFD, nonchar, tag
         { "x:%EE%80%80?%EE%80%80?#%EE%80%80?%EE%80%80", "x:%EE%80%80?\uE000?#%EE%80%80?%EE%80%80" }, // private use
-        // What is no UTF-8 stays: stray and missing continuations, overlong forms, surrogates, beyond U+10FFFF.
+        // What is no UTF-8 stays.
         { "x:%BC%C3%C3%BC%C3", "x:%BC%C3\u00FC%C3" },
         { "x:%C3\u00BC", "x:%C3\u00BC" },
         { "x:%E2%82%C3%BC", "x:%E2%82\u00FC" },
-        { "x:%C1%81%E0%82%AC%F0%82%82%AC", "x:%C1%81%E0%82%AC%F0%82%82%AC" },
-        { "x:%ED%A0%80%F4%90%80%80%F8%88%80%80%80%FF", "x:%ED%A0%80%F4%90%80%80%F8%88%80%80%80%FF" },
-        { "sip:bob@[2001:db8::1]:5060", "sip:bob@[2001:db8::1]:5060" },
-        { "sip:\u00FC", "sip:\u00FC" },
+        { "x:%ED%A0%80%F4%90%80%80%C1%81%FF", "x:%ED%A0%80%F4%90%80%80%C1%81%FF" },
         { "", "(null)" },
-        { "sip:a b", "(null)" },
         { "sip:%C3%B", "(null)" },
-        { "sip:%", "(null)" },
         { "x:\uE000", "(null)" },
-        { "*", "(null)" },
-        { "//h/%C3%BC", "(null)" },
         { "http://[v1.%C3%BC]/", "(null)" },
     };
     for( const auto &[ text, converted ] : cases )
@@ -64,12 +56,9 @@ TEST( IriConvert, ToUriEscapesWhatIsBeyondAscii )
     static constexpr Case cases[] = {
         { "sip:b\u00FCrgermeister@b\u00FCcher.example", "sip:b%C3%BCrgermeister@b%C3%BCcher.example" }, // no IDNA
         { "x:\u00A0\u20AC\U0001F600?\U0010FFFD", "x:%C2%A0%E2%82%AC%F0%9F%98%80?%F4%8F%BF%BD" },
-        { "x:%c3%bc\u00FC%", "(null)" },
         { "x:%c3%bc\u00FC", "x:%c3%bc%C3%BC" },
-        { "sip:bob@[2001:db8::1]", "sip:bob@[2001:db8::1]" },
+        { "x:%c3%bc\u00FC%", "(null)" },
         { "", "(null)" },
-        { "sip:a b", "(null)" },
-        { "x:\uE000", "(null)" },
     };
     for( const auto &[ text, converted ] : cases )
         EXPECT_EQ( Take( iriTryConvertToUri( Str( text ).Get() ) ), converted ) << text;
@@ -134,20 +123,12 @@ TEST( IriConvert, LongTextTakesLinearTime )
     }
 }
 
-TEST( IriGens, TheWholeTextMustBeAnIri )
-{
-    for( const char *text : { "sip:", "sip:a@b", "x:\u00FC", "urn:uuid:0" } )
-        EXPECT_TRUE( iriGensValidatePart( IRI_GENS_PART_IRI, Str( text ).Get() ) ) << text;
-    for( const char *text : { "", "sip", "sip:a@b ", " sip:a@b", "x:%4", "http://[::1" } )
-        EXPECT_FALSE( iriGensValidatePart( IRI_GENS_PART_IRI, Str( text ).Get() ) ) << text;
-}
-
 TEST( IriDeathTest, MisuseAborts )
 {
-    EXPECT_DEATH( iriGensValidatePart( IRI_GENS_PART_IRI, nullptr ), "text" );
-    EXPECT_DEATH( iriGensValidatePart( 1, Str( "x:" ).Get() ), "part == IRI_GENS_PART_IRI" );
-    EXPECT_DEATH( iriTryConvertFromUri( nullptr ), "uri" );
-    EXPECT_DEATH( iriTryConvertToUri( nullptr ), "iri" );
+    EXPECT_ABORT( "text", iriGensValidatePart( IRI_GENS_PART_IRI, nullptr ) );
+    EXPECT_ABORT( "part == IRI_GENS_PART_IRI", iriGensValidatePart( 1, Str( "x:" ).Get() ) );
+    EXPECT_ABORT( "uri", iriTryConvertFromUri( nullptr ) );
+    EXPECT_ABORT( "iri", iriTryConvertToUri( nullptr ) );
 }
 
 } // namespace

@@ -3,7 +3,9 @@
 
 #include "text.h"
 
-#include <gmock/gmock.h>
+#include <cerrno>
+#include <cstdlib>
+#include <random>
 
 namespace {
 
@@ -86,83 +88,61 @@ TEST( Format, MayHaveTheStringItAppendsToAsArgumentAndAsFormat )
     EXPECT_EQ( Text( string.Get() ), "%i%i;12;" );
 }
 
-TEST( Format, AbortsOnWhatItDoesNotKnow )
+TEST( FormatDeathTest, AbortsOnWhatItDoesNotKnow )
 {
     for( const char *format : { "%x", "%", "%5", "%A", "%!16x", "%.i" } )
-        EXPECT_DEATH( pbStringCreateFromFormatCstr( format, -1, I( 0 ), I( 0 ) ), "the conversion is known" ) << format;
+        EXPECT_ABORT( "the conversion is known", pbStringCreateFromFormatCstr( format, -1, I( 0 ), I( 0 ) ) ) << format;
     for( const char *format : { "%!1i", "%!37i", "%!i" } )
-        EXPECT_DEATH( pbStringCreateFromFormatCstr( format, -1, I( 0 ) ), "conversion.base >= 2" ) << format;
-    EXPECT_DEATH( pbStringCreateFromFormatCstr( "%s", -1, nullptr ), "\"argument\"" );
-    EXPECT_DEATH( pbStringCreateFromFormatCstr( "%99999999999999999999i", -1, I( 0 ) ), "\"number <= maxWidth\"" );
-    EXPECT_DEATH( pbStringCreateFromFormat( nullptr ), "\"format\"" );
-    EXPECT_DEATH( pbStringCreateFromFormatCstr( nullptr, -1 ), "\"format \\|\\| length == 0\"" );
+        EXPECT_ABORT( "conversion.base >= 2 && conversion.base <= 36",
+                      pbStringCreateFromFormatCstr( format, -1, I( 0 ) ) )
+            << format;
+    EXPECT_ABORT( "argument", pbStringCreateFromFormatCstr( "%s", -1, nullptr ) );
+    EXPECT_ABORT( "number <= maxWidth", pbStringCreateFromFormatCstr( "%99999999999999999999i", -1, I( 0 ) ) );
+    EXPECT_ABORT( "number <= maxWidth", pbStringCreateFromFormatCstr( "%1000001i", -1, I( 0 ) ) );
+    EXPECT_ABORT( "format", pbStringCreateFromFormat( nullptr ) );
+    EXPECT_ABORT( "format || length == 0", pbStringCreateFromFormatCstr( nullptr, -1 ) );
 }
 
 TEST( FormatInt, EncodesWithWidthAndFlags )
 {
     EXPECT_EQ( Take( pbFormatEncodeInt( 7, 10, 3, PB_FORMAT_FLAG_ZERO_PAD ) ), "007" );
-    EXPECT_EQ( Take( pbFormatEncodeInt( 486, 10, 3, 2 ) ), "486" );
-    EXPECT_EQ( Take( pbFormatEncodeInt( -7, 10, 0, 0 ) ), "-7" );
     EXPECT_EQ( Take( pbFormatEncodeInt( 0xBEEF, 16, 6, PB_FORMAT_FLAG_UPPER_CASE ) ), "  BEEF" );
     EXPECT_EQ( Take( pbFormatEncodeInt( INT64_MIN, 36, 0, 0 ) ), "-1y2p0ij32e8e8" );
-    EXPECT_DEATH( pbFormatEncodeInt( 1, 1, 0, 0 ), "\"base >= 2 && base <= 36\"" );
-    EXPECT_DEATH( pbFormatEncodeInt( 1, 10, -1, 0 ), "\"width >= 0\"" );
+    EXPECT_ABORT( "base >= 2 && base <= 36", pbFormatEncodeInt( 1, 1, 0, 0 ) );
+    EXPECT_ABORT( "width >= 0", pbFormatEncodeInt( 1, 10, -1, 0 ) );
 }
 
-TEST( FormatInt, DecodesTheLongestIntegerThatFits )
+// The C library reads the same, but for a sign, blanks or "0x" in front, and for zero below zero.
+TEST( FormatInt, DecodesAsTheCLibraryDoes )
 {
-    struct
-    {
-        const char *text;
-        int64_t     radix;
-        bool        found;
-        int64_t     value, charsRead;
-    } const rows[] = {
-        { "", 10, false, -1, 0 },
-        { "-", 10, false, -1, 0 },
-        { "+1", 10, false, -1, 0 },
-        { " 1", 10, false, -1, 0 },
-        { "--1", 10, false, -1, 0 },
-        { "x", 10, false, -1, 0 },
-        { "0", 10, true, 0, 1 },
-        { "007", 10, true, 7, 3 },
-        { "-5", 10, true, -5, 2 },
-        { "-05", 10, true, -5, 3 },
-        { "-0", 10, false, -1, 0 },
-        { "-00", 10, false, -1, 0 },
-        { "12 ", 10, true, 12, 2 },
-        { "12-3", 10, true, 12, 2 },
-        { "0x10", 10, true, 0, 1 },
-        { "\u0663", 10, false, -1, 0 }, // a digit, but not of ours
-        { "9223372036854775807", 10, true, INT64_MAX, 19 },
-        { "9223372036854775808", 10, false, -1, 0 },
-        { "-9223372036854775808", 10, true, INT64_MIN, 20 },
-        { "-9223372036854775809", 10, false, -1, 0 },
-        { "18446744073709551617", 10, false, -1, 0 },
-        { "99999999999999999999999999x", 10, false, -1, 0 },
-        { "00000000000000000000000000000000000012", 10, true, 12, 38 },
-        { "Ffg", 16, true, 255, 2 },
-        { "7fffffffffffffff", 16, true, INT64_MAX, 16 },
-        { "zZ{", 36, true, 1295, 2 },
-        { "102", 2, true, 2, 2 },
-        { "2", 2, false, -1, 0 },
-        { "@`[", 36, false, -1, 0 },
-    };
-    for( const auto &row : rows ) {
-        const auto chs   = Chars( row.text );
-        int64_t    value = 99, charsRead = 99;
-        EXPECT_EQ( pbFormatTryDecodeIntChars( chs.data(), int64_t( chs.size() ), row.radix, &value, &charsRead ),
-                   row.found )
-            << row.text;
-        EXPECT_EQ( value, row.value ) << row.text;
-        EXPECT_EQ( charsRead, row.charsRead ) << row.text;
-        EXPECT_EQ( pbFormatTryDecodeIntChars( chs.data(), int64_t( chs.size() ), row.radix, nullptr, nullptr ),
-                   row.found );
+    static constexpr const char *pieces[] = { "-", "0", "1", "9", "a", "F", "g", "Z", "{", "@", "922337203685477580",
+                                              "7", "8" };
+    std::mt19937                 random{ 1 };
+    for( int round = 0; round < 100'000; ++round ) {
+        std::string text;
+        for( auto count = random() % 5; count > 0; --count ) text += pieces[ random() % std::size( pieces ) ];
+        const int radix = round % 2 ? 10 : int( 2 + random() % 35 );
+
+        errno                   = 0;
+        char         *end       = nullptr;
+        const int64_t number    = std::strtoll( text.c_str(), &end, radix );
+        const bool    expected  = end != text.c_str() && errno == 0 && ( number != 0 || text[ 0 ] != '-' );
+        const auto    chs       = Chars( text );
+        int64_t       value     = 99;
+        int64_t       charsRead = 99;
+        ASSERT_EQ( pbFormatTryDecodeIntChars( chs.data(), int64_t( chs.size() ), radix, &value, &charsRead ), expected )
+            << text << " in " << radix;
+        ASSERT_EQ( value, expected ? number : -1 ) << text << " in " << radix;
+        ASSERT_EQ( charsRead, expected ? end - text.c_str() : 0 ) << text;
     }
+    for( const char *text : { "+1", " 1", "\u0663" } )
+        EXPECT_FALSE( pbFormatTryDecodeIntChars( Chars( text ).data(), 2, 10, nullptr, nullptr ) ) << text;
+    EXPECT_TRUE( pbFormatTryDecodeIntChars( Chars( "0x1" ).data(), 3, 16, nullptr, nullptr ) );
+
     const PbChar one = '1';
-    EXPECT_DEATH( pbFormatTryDecodeIntChars( &one, -1, 10, nullptr, nullptr ), "\"length >= 0\"" );
-    EXPECT_DEATH( pbFormatTryDecodeIntChars( nullptr, 1, 10, nullptr, nullptr ), "\"chs \\|\\| length == 0\"" );
-    EXPECT_DEATH( pbFormatTryDecodeIntChars( &one, 1, 37, nullptr, nullptr ), "\"radix >= 2 && radix <= 36\"" );
+    EXPECT_ABORT( "length >= 0", pbFormatTryDecodeIntChars( &one, -1, 10, nullptr, nullptr ) );
+    EXPECT_ABORT( "chs || length == 0", pbFormatTryDecodeIntChars( nullptr, 1, 10, nullptr, nullptr ) );
+    EXPECT_ABORT( "radix >= 2 && radix <= 36", pbFormatTryDecodeIntChars( &one, 1, 37, nullptr, nullptr ) );
 }
 
 TEST( FormatInt, ReadsWhatItWrites )

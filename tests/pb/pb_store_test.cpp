@@ -1,8 +1,6 @@
 // Stores: values and sub-stores under one set of keys.
 #include "text.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 void Set( pb::Ref< PbStore > &store, const char *key, const char *value )
@@ -78,11 +76,10 @@ TEST( PbStoreDeathTest, MisuseAborts )
     pb::Ref       store{ pbStoreCreate() };
     PbStore      *none = nullptr;
     const pb::Ref key  = Str( "a" );
-    EXPECT_DEATH( pbStoreValueAt( store.Get(), 0 ), "index < " );
-    EXPECT_DEATH( pbStoreValue( store.Get(), nullptr ), "key" );
-    EXPECT_DEATH( pbStoreSetValue( store.Slot(), key.Get(), nullptr ), "value" );
-    EXPECT_DEATH( pbStoreSetValue( &none, key.Get(), key.Get() ), "\\*store" );
-    EXPECT_DEATH( pbStoreDel( store.Slot(), nullptr ), "key" );
+    EXPECT_ABORT( "index < dict->length", pbStoreValueAt( store.Get(), 0 ) );
+    EXPECT_ABORT( "value", pbStoreSetValue( store.Slot(), key.Get(), nullptr ) );
+    EXPECT_ABORT( "*store", pbStoreSetValue( &none, key.Get(), key.Get() ) );
+    EXPECT_ABORT( "key", pbStoreDel( store.Slot(), nullptr ) );
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 // Times: what is a moment, weekdays, order and text.
 #include "text.h"
 
-#include <gmock/gmock.h>
-
 #include <ctime>
+#include <vector>
 
 namespace {
 
@@ -27,7 +26,6 @@ TEST( PbTime, ValidityFollowsCalendarAndClock )
         int64_t year, month, day, hour, minute, second;
         bool    valid;
     } cases[] = {
-        { 2010, 11, 13, 23, 29, 0, true },
         { 0, 1, 1, 0, 0, 0, true },
         { 9999, 12, 31, 23, 59, 59, true },
         { -1, 12, 31, 0, 0, 0, false },
@@ -36,11 +34,8 @@ TEST( PbTime, ValidityFollowsCalendarAndClock )
         { 2004, 2, 29, 0, 0, 0, true },
         { 1900, 2, 29, 0, 0, 0, false },
         { 2003, 2, 29, 0, 0, 0, false },
-        { 0, 2, 29, 0, 0, 0, true },
         { 2001, 4, 31, 0, 0, 0, false },
-        { 2001, 12, 32, 0, 0, 0, false },
         { 2001, 1, 0, 0, 0, 0, false },
-        { 2001, 0, 1, 0, 0, 0, false },
         { 2001, 13, 1, 0, 0, 0, false },
         { 2001, 257, 1, 0, 0, 0, false }, // must not be cut to a byte
         { 2001, 1, ( int64_t( 1 ) << 32 ) + 1, 0, 0, 0, false },
@@ -78,17 +73,10 @@ TEST( PbTime, WeekdaysRunOnThroughFourCenturies )
     EXPECT_EQ( weekday, 5 ); // the calendar repeats after 400 years
 }
 
-TEST( PbTime, WeekdaysOfKnownDays )
+TEST( PbTime, WeekdaysOfTheFirstAndTheLastDay )
 {
-    const struct
-    {
-        int64_t year, month, day, weekday;
-    } cases[] = {
-        { 1970, 1, 1, 3 }, { 2010, 11, 13, 5 }, { 1994, 11, 6, 6 }, { 1582, 10, 15, 4 },
-        { 0, 1, 1, 5 },    { 9999, 12, 31, 4 }, { 1900, 1, 1, 0 },
-    };
-    for( const auto &c : cases )
-        EXPECT_EQ( pbTimeWeekday( Time( c.year, c.month, c.day ).Get() ), c.weekday ) << c.year;
+    EXPECT_EQ( pbTimeWeekday( Time( 0, 1, 1 ).Get() ), 5 );
+    EXPECT_EQ( pbTimeWeekday( Time( 9999, 12, 31 ).Get() ), 4 );
 }
 
 TEST( PbTime, ComparesFromYearToSecond )
@@ -96,12 +84,7 @@ TEST( PbTime, ComparesFromYearToSecond )
     const pb::Ref< PbTime > ascending[] = {
         Time( 1, 9, 9, 9, 9, 9 ), Time( 2, 1, 9, 9, 9, 9 ), Time( 2, 2, 1, 9, 9, 9 ), Time( 2, 2, 2, 1, 9, 9 ),
         Time( 2, 2, 2, 2, 1, 9 ), Time( 2, 2, 2, 2, 2, 1 ), Time( 2, 2, 2, 2, 2, 2 ) };
-    for( const auto &left : ascending )
-        for( const auto &right : ascending ) {
-            const int64_t order = pbTimeCompare( left.Get(), right.Get() );
-            EXPECT_EQ( order < 0, &left < &right );
-            EXPECT_EQ( order > 0, &left > &right );
-        }
+    ExpectAscending( ascending, pbTimeCompare );
 }
 
 TEST( PbTime, TextIsPadded )
@@ -137,9 +120,9 @@ TEST( PbTime, SetterCopiesASharedTime )
 
 TEST( PbTimeDeathTest, MisuseAborts )
 {
-    EXPECT_DEATH( pbTimeWeekday( Time( 2001, 2, 29 ).Get() ), "pbTimeValid\\( time \\)" );
-    EXPECT_DEATH( pbTimeSetYear( nullptr, 1 ), "time" );
-    EXPECT_DEATH( pbTimeHour( nullptr ), "time" );
+    EXPECT_ABORT( "pbTimeValid( time )", pbTimeWeekday( Time( 2001, 2, 29 ).Get() ) );
+    EXPECT_ABORT( "time", pbTimeSetYear( nullptr, 1 ) );
+    EXPECT_ABORT( "time", pbTimeHour( nullptr ) );
 }
 
 } // namespace
