@@ -18,7 +18,7 @@ when it does not decode. Of a header field with one value the last line counts.
 
 JSON is one array with an object for each message. A header field has its "lines"; by its type it has "members", or "items",
 or "error" when it does not decode. All of the body is there as "text" (UTF-8) or "hex". What is no message has "error" and
-its line.
+its line. "sipsn encode --json" makes messages of it again; "sipsn headers --json-schema" prints its JSON Schema.
 
 Examples:
   sipsn decode invite.sip

@@ -1,5 +1,6 @@
 // sipsn headers: the header fields that have a type.
 #include "commands.h"
+#include "json_schema.h"
 #include "text.h"
 
 #include <algorithm>
@@ -16,6 +17,9 @@ constexpr const char *footer =
   list         values, in order, on lines of their own or between commas
   token list   tokens, in order
   token set    tokens, each once, in any order
+
+With --json-schema, the members of each are told: the JSON Schema of what "sipsn decode --json" prints and "sipsn encode --json"
+reads.
 
 Examples:
   sipsn headers | grep -w list
@@ -50,8 +54,12 @@ std::string Padded( std::string text, size_t width )
     return text.append( width - std::min( width, text.size() ), ' ' );
 }
 
-Status RunHeaders( bool json )
+Status RunHeaders( bool json, bool jsonSchema )
 {
+    if( jsonSchema ) {
+        PrintJson( MakeJsonSchema() );
+        return allWell;
+    }
     const Json described = DescribeFamilies();
     if( json ) {
         PrintJson( described );
@@ -69,9 +77,11 @@ void AddHeaders( CLI::App &app, Task &task )
 {
     CLI::App *command = app.add_subcommand( "headers", "List the header fields that have a type" );
     auto      json    = std::make_shared< bool >( false );
+    auto      schema  = std::make_shared< bool >( false );
     command->footer( footer );
     command->add_flag( "--json", *json, "Print JSON" );
-    command->callback( [ &task, json ] { task = [ json ] { return RunHeaders( *json ); }; } );
+    command->add_flag( "--json-schema", *schema, "Print the JSON Schema of messages" );
+    command->callback( [ &task, json, schema ] { task = [ json, schema ] { return RunHeaders( *json, *schema ); }; } );
 }
 
 } // namespace tool
