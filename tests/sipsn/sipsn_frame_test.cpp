@@ -1,5 +1,6 @@
 // What all types have in common, for every type that the library exports: the standard functions, their aborts, copies,
 // sort records, and members that are gone after the last release.
+#include "exports.h"
 #include "message_text.h"
 
 #include "pb/pb_block.h"
@@ -10,8 +11,6 @@
 #include <bit>
 #include <cctype>
 #include <cstring>
-#include <dlfcn.h>
-#include <fstream>
 #include <map>
 
 namespace {
@@ -42,11 +41,6 @@ extern "C" PbObj *pb___ObjCreate( int64_t size, PbSort *sort )
 namespace {
 
 // ---- Types -----------------------------------------------------------------------------------------
-
-template< class F > F *Exported( const std::string &name )
-{
-    return reinterpret_cast< F * >( dlsym( RTLD_DEFAULT, name.c_str() ) );
-}
 
 struct Type
 {
@@ -96,10 +90,7 @@ const std::vector< Type > &Types()
 {
     static const auto types = [] {
         std::vector< Type > found;
-        std::ifstream       exports{ SIPSN_SOURCE_DIR "/source/sipsn/sipsn.exports" };
-        for( std::string name; std::getline( exports, name ); )
-            if( name.starts_with( "sipsn" ) && name.ends_with( "Sort" ) && !name.starts_with( "sipsn___" ) )
-                found.emplace_back( name.substr( 5, name.size() - 9 ) );
+        for( const std::string &name : ExportsBetween( "sipsn", "Sort" ) ) found.emplace_back( name );
         return found;
     }();
     return types;

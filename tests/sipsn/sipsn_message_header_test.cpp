@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 namespace {
 
 std::string Normal( std::string_view name ) { return Take( sipsnMessageHeaderNameNormalize( Str( name ).Get() ) ); }
@@ -44,30 +46,12 @@ TEST( SipsnMessageHeader, NamesHaveOneCanonicalForm )
 
 TEST( SipsnMessageHeader, EveryCompactNameHasItsLongName )
 {
-    const std::pair< const char *, const char * > names[] = {
-        { "a", "Accept-Contact" },
-        { "u", "Allow-Events" },
-        { "i", "Call-Id" },
-        { "m", "Contact" },
-        { "e", "Content-Encoding" },
-        { "l", "Content-Length" },
-        { "c", "Content-Type" },
-        { "o", "Event" },
-        { "f", "From" },
-        { "y", "Identity" },
-        { "n", "Identity-Info" },
-        { "r", "Refer-To" },
-        { "b", "Referred-By" },
-        { "j", "Reject-Contact" },
-        { "d", "Request-Disposition" },
-        { "x", "Session-Expires" },
-        { "s", "Subject" },
-        { "k", "Supported" },
-        { "t", "To" },
-        { "v", "Via" },
-    };
+    std::istringstream names{
+        "a Accept-Contact u Allow-Events i Call-Id m Contact e Content-Encoding l Content-Length "
+        "c Content-Type o Event f From y Identity n Identity-Info r Refer-To b Referred-By "
+        "j Reject-Contact d Request-Disposition x Session-Expires s Subject k Supported t To v Via" };
     std::string compact;
-    for( const auto &[ letter, name ] : names ) {
+    for( std::string letter, name; names >> letter >> name; ) {
         EXPECT_EQ( Normal( letter ), name );
         compact += letter;
     }
@@ -91,7 +75,6 @@ TEST( SipsnMessageHeader, EqualsByNameInWhateverForm )
 {
     pb::Ref via = Header( "v", { "x" } );
     EXPECT_TRUE( sipsnMessageHeaderNameEqualsCstr( via.Get(), "VIA", -1 ) );
-    EXPECT_TRUE( sipsnMessageHeaderNameEqualsWcstr( via.Get(), L"vi\u0061", -1 ) );
     EXPECT_FALSE( sipsnMessageHeaderNameEqualsCstr( via.Get(), "Route", -1 ) );
     EXPECT_TRUE( sipsnMessageHeaderEquals( via.Get(), Header( "Via", { "x" } ).Get() ) );
     EXPECT_LT( sipsnMessageHeaderCompare( via.Get(), Header( "Via", { "x", "" } ).Get() ), 0 );
@@ -104,19 +87,12 @@ TEST( SipsnMessageHeader, ChangesLinesOfItsOwnCopyOnly )
     pb::Ref copy{ sipsnMessageHeaderRetain( header.Get() ) };
     sipsnMessageHeaderSetLineAtFormatCstr( copy.Slot(), 1, "%s-%i", -1, Str( "c" ).Get(), int64_t{ 7 } );
     sipsnMessageHeaderAppendLineFormatWcstr( copy.Slot(), L"%^!16i", -1, int64_t{ 250 } );
-    sipsnMessageHeaderAppendLineWcstr( copy.Slot(), L"w", -1 );
     sipsnMessageHeaderDelLineAt( copy.Slot(), 0 );
     sipsnMessageHeaderSetNameCstr( copy.Slot(), "s", -1 );
-    EXPECT_EQ( Take( sipsnMessageHeaderToString( copy.Get() ) ), "Subject: c-7\r\nSubject: FA\r\nSubject: w" );
+    EXPECT_EQ( Take( sipsnMessageHeaderToString( copy.Get() ) ), "Subject: c-7\r\nSubject: FA" );
     EXPECT_EQ( Take( sipsnMessageHeaderToString( header.Get() ) ), "Q: a\r\nQ: b" );
     EXPECT_EQ( Take( sipsnMessageHeaderLastLine( header.Get() ) ), "b" );
     EXPECT_EQ( sipsnMessageHeaderLastLine( Header( "X", {} ).Get() ), nullptr );
-
-    pb::Ref lines{ sipsnMessageHeaderLinesVector( header.Get() ) };
-    sipsnMessageHeaderSetLinesVector( copy.Slot(), lines.Get() );
-    sipsnMessageHeaderAppendLineCstr( copy.Slot(), "c", -1 );
-    EXPECT_EQ( pbVectorLength( lines.Get() ), 2 );
-    EXPECT_EQ( sipsnMessageHeaderLinesLength( copy.Get() ), 3 );
 }
 
 TEST( SipsnMessageHeader, StoresAndRestores )

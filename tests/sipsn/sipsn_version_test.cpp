@@ -46,12 +46,4 @@ TEST( SipsnVersion, TellsSip20FromOthers )
     EXPECT_EQ( Take( sipsnVersionToString( again.Get() ) ), "SIPS/3.0" );
 }
 
-TEST( SipsnVersionDeathTest, RefusesWhatIsNoToken )
-{
-    EXPECT_DEATH( sipsnVersionCreate( Str( "S IP" ).Get(), Str( "2.0" ).Get() ),
-                  "sipsnProtocolNameOk\\( protocolName \\)" );
-    EXPECT_DEATH( sipsnVersionCreate( Str( "SIP" ).Get(), Str( "" ).Get() ),
-                  "sipsnProtocolVersionOk\\( protocolVersion \\)" );
-}
-
 } // namespace
