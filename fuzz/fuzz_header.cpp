@@ -3,122 +3,37 @@
 // list decodes or does not, and may be put back. What was changed is a message like any other.
 #include "fuzz.h"
 
-#include <iterator>
+#include "header_functions.h"
 
 namespace {
 
 using ObjPtr   = pb::Ref< PbObj >;
 using FieldPtr = pb::Ref< SipsnMessageHeader >;
 
-// The functions of a header type, over PbObj; the last three for those that are lists of values.
-struct Family
+// A header type; its last functions are there for lists of values.
+struct Family : HeaderFunctions
 {
-    PbObj *( *tryDecode )( SipsnMessageHeader *field );
-    SipsnMessageHeader *( *encode )( PbObj *hdr );
-    PbObj *( *tryDecodeFromMessage )( SipsnMessage *msg );
-    void ( *encodeToMessage )( PbObj *hdr, SipsnMessage **msg );
-    bool ( *presentInMessage )( SipsnMessage *msg );
-    PbStore *( *store )( PbObj *hdr );
-    PbObj *( *tryRestore )( PbStore *store );
+    explicit Family( const std::string &type, const std::string &items = "", const std::string &item = "" )
+        : HeaderFunctions{ type }, length{ Find< int64_t( PbObj * ) >( items + "Length" ) },
+          tryDecodeAt{ Find< PbObj *( PbObj *, int64_t ) >( "TryDecode" + item + "At" ) },
+          setAt{ Find< void( PbObj **, int64_t, PbObj * ) >( "Set" + item + "At" ) }
+    {}
 
-    int64_t ( *length )( PbObj *hdr )                                  = nullptr;
-    PbObj *( *tryDecodeAt )( PbObj *hdr, int64_t index )               = nullptr;
-    PbObj *( *withValueAt )( PbObj *hdr, int64_t index, PbObj *value ) = nullptr; // a header with another value there
+    int64_t ( *length )( PbObj *hdr );
+    PbObj *( *tryDecodeAt )( PbObj *hdr, int64_t index );
+    void ( *setAt )( PbObj **hdr, int64_t index, PbObj *value );
 };
 
-#define HEADER( prefix )                                                                                               \
-    Family                                                                                                             \
-    {                                                                                                                  \
-        []( SipsnMessageHeader *field ) { return prefix##Obj( prefix##TryDecode( field ) ); },                         \
-            []( PbObj *hdr ) { return prefix##Encode( prefix##From( hdr ) ); },                                        \
-            []( SipsnMessage *msg ) { return prefix##Obj( prefix##TryDecodeFromMessage( msg ) ); },                    \
-            []( PbObj *hdr, SipsnMessage **msg ) { prefix##EncodeToMessage( prefix##From( hdr ), msg ); },             \
-            prefix##PresentInMessage, []( PbObj *hdr ) { return prefix##Store( prefix##From( hdr ) ); },               \
-            []( PbStore *store ) { return prefix##Obj( prefix##TryRestore( store ) ); },                               \
-    }
-
-#define LIST( prefix, Items, Item, value )                                                                             \
-    WithValues(                                                                                                        \
-        HEADER( prefix ), []( PbObj *hdr ) { return prefix##Items##Length( prefix##From( hdr ) ); },                   \
-        []( PbObj *hdr, int64_t index ) {                                                                              \
-            return value##Obj( prefix##TryDecode##Item##At( prefix##From( hdr ), index ) );                            \
-        },                                                                                                             \
-        []( PbObj *hdr, int64_t index, PbObj *object ) {                                                               \
-            auto *changed = prefix##CreateFrom( prefix##From( hdr ) );                                                 \
-            prefix##Set##Item##At( &changed, index, value##From( object ) );                                           \
-            return prefix##Obj( changed );                                                                             \
-        } )
-
-constexpr Family WithValues( Family family, decltype( Family::length ) length,
-                             decltype( Family::tryDecodeAt ) tryDecodeAt, decltype( Family::withValueAt ) withValueAt )
+const std::vector< Family > &Families()
 {
-    family.length      = length;
-    family.tryDecodeAt = tryDecodeAt;
-    family.withValueAt = withValueAt;
-    return family;
+    static const std::vector< Family > families{
+#define VALUES( Type, name, compact, rfc, Items, Item, Value ) Family( #Type, #Items, #Item ),
+#define TOKENS( Type, ... )                                    Family( #Type ),
+#define SINGLE( Type, ... )                                    Family( #Type ),
+#include "sipsn/sipsn_families.inc"
+    };
+    return families;
 }
-
-constexpr Family families[] = {
-    LIST( sipsnHeaderAccept, Accepts, Accept, sipsnAccept ),
-    LIST( sipsnHeaderAcceptEncoding, AcceptEncodings, AcceptEncoding, sipsnAcceptEncoding ),
-    HEADER( sipsnHeaderAcceptResourcePriority ),
-    LIST( sipsnHeaderAlertInfo, AlertInfos, AlertInfo, sipsnAlertInfo ),
-    HEADER( sipsnHeaderAllow ),
-    HEADER( sipsnHeaderAllowEvents ),
-    HEADER( sipsnHeaderCallId ),
-    LIST( sipsnHeaderCallInfo, CallInfos, CallInfo, sipsnCallInfo ),
-    LIST( sipsnHeaderContact, Contacts, Contact, sipsnContact ),
-    HEADER( sipsnHeaderContentDisposition ),
-    HEADER( sipsnHeaderContentEncoding ),
-    HEADER( sipsnHeaderCseq ),
-    HEADER( sipsnHeaderDate ),
-    LIST( sipsnHeaderDiversion, Diversions, Diversion, sipsnDiversion ),
-    LIST( sipsnHeaderErrorInfo, ErrorInfos, ErrorInfo, sipsnErrorInfo ),
-    HEADER( sipsnHeaderEvent ),
-    HEADER( sipsnHeaderExpires ),
-    HEADER( sipsnHeaderFrom ),
-    LIST( sipsnHeaderHistoryInfo, HistoryInfos, HistoryInfo, sipsnHistoryInfo ),
-    HEADER( sipsnHeaderInReplyTo ),
-    HEADER( sipsnHeaderMaxForwards ),
-    HEADER( sipsnHeaderMinExpires ),
-    HEADER( sipsnHeaderMinSe ),
-    HEADER( sipsnHeaderOrganization ),
-    LIST( sipsnHeaderPAssertedIdentity, IdentityValues, IdentityValue, sipsnIdentityValue ),
-    HEADER( sipsnHeaderPCalledPartyId ),
-    HEADER( sipsnHeaderPEarlyMedia ),
-    LIST( sipsnHeaderPPreferredIdentity, IdentityValues, IdentityValue, sipsnIdentityValue ),
-    HEADER( sipsnHeaderPriority ),
-    HEADER( sipsnHeaderPrivacy ),
-    HEADER( sipsnHeaderProxyRequire ),
-    HEADER( sipsnHeaderRack ),
-    LIST( sipsnHeaderReason, Reasons, Reason, sipsnReason ),
-    LIST( sipsnHeaderRecordRoute, Routes, Route, sipsnRoute ),
-    HEADER( sipsnHeaderReferTo ),
-    HEADER( sipsnHeaderReferredBy ),
-    HEADER( sipsnHeaderRemotePartyId ),
-    HEADER( sipsnHeaderReplaces ),
-    HEADER( sipsnHeaderReplyTo ),
-    HEADER( sipsnHeaderRequire ),
-    HEADER( sipsnHeaderResourcePriority ),
-    HEADER( sipsnHeaderRetryAfter ),
-    LIST( sipsnHeaderRoute, Routes, Route, sipsnRoute ),
-    HEADER( sipsnHeaderRseq ),
-    HEADER( sipsnHeaderServer ),
-    LIST( sipsnHeaderServiceRoute, Routes, Route, sipsnRoute ),
-    HEADER( sipsnHeaderSessionExpires ),
-    HEADER( sipsnHeaderSessionId ),
-    HEADER( sipsnHeaderSubject ),
-    HEADER( sipsnHeaderSubscriptionState ),
-    HEADER( sipsnHeaderSupported ),
-    HEADER( sipsnHeaderTimestamp ),
-    HEADER( sipsnHeaderTo ),
-    HEADER( sipsnHeaderUnsupported ),
-    HEADER( sipsnHeaderUserAgent ),
-    LIST( sipsnHeaderUserToUser, UuiValues, UuiValue, sipsnUuiValue ),
-    LIST( sipsnHeaderVia, Vias, Via, sipsnVia ),
-    LIST( sipsnHeaderWarning, Warnings, Warning, sipsnWarningValue ),
-};
-static_assert( std::size( families ) == 58 );
 
 bool Same( PbObj *a, PbObj *b ) { return a && b ? pbObjCompare( a, b ) == 0 : a == b; }
 
@@ -148,7 +63,8 @@ void CheckValues( const Family &family, PbObj *hdr )
     for( int64_t at = 0; at < std::min( length, int64_t{ 8 } ); ++at ) {
         const ObjPtr value{ family.tryDecodeAt( hdr, at ) };
         if( !value ) continue;
-        const ObjPtr changed{ family.withValueAt( hdr, at, value.Get() ) };
+        ObjPtr changed{ pb::Retain( hdr ) };
+        family.setAt( changed.Slot(), at, value.Get() );
         const ObjPtr valueAgain{ family.tryDecodeAt( changed.Get(), at ) };
         REQUIRE( family.length( changed.Get() ) == length );
     }
@@ -191,13 +107,13 @@ extern "C" int LLVMFuzzerTestOneInput( const uint8_t *data, size_t size )
     fuzz::Start();
     pb::Ref msg{ sipsnMessageTryDecode( fuzz::Buffer( data, size ).Get() ) };
     if( !msg ) return 0;
-    for( const Family &family : families )
+    for( const Family &family : Families() )
         if( const ObjPtr hdr{ family.tryDecodeFromMessage( msg.Get() ) } ) CheckHeader( family, hdr.Get(), msg.Slot() );
 
     pb::Ref bytes{ sipsnMessageEncode( msg.Get() ) };
     pb::Ref again{ sipsnMessageTryDecode( bytes.Get() ) };
     REQUIRE( bool( again ) );
-    for( const Family &family : families ) {
+    for( const Family &family : Families() ) {
         const ObjPtr hdr{ family.tryDecodeFromMessage( msg.Get() ) };
         const ObjPtr decoded{ family.tryDecodeFromMessage( again.Get() ) };
         REQUIRE( Same( hdr.Get(), decoded.Get() ) || ( hdr && decoded && family.length ) );
