@@ -320,7 +320,7 @@ TEST( SipsnMember, EverySetterIsVisited )
 
 // ---- The schema ------------------------------------------------------------------------------------
 
-// What a setter takes and the schema refuses: line ends, where they are written within quotes, and times that are none.
+// Line ends in a Diversion's contents: a setter takes them, and the schema does not.
 bool IsForSettersOnly( const Accessors &member, const Value &value )
 {
     const std::string text = value.Text();

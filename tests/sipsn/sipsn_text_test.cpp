@@ -1,5 +1,5 @@
-// What texts become: the rows of values.txt for structured values and those of headers.txt for header fields, by every
-// function that decodes or encodes.
+// What texts become: the rows of tokens.txt for single texts, those of values.txt for structured values and those of
+// headers.txt for header fields, by every function that decodes or encodes.
 #include "header_functions.h"
 #include "header_text.h"
 #include "schema_text.h"
@@ -21,9 +21,12 @@ Texts Between( std::string_view line )
         const size_t end = line.find( '`', begin + 1 );
         texts.emplace_back( line.substr( begin + 1, end - begin - 1 ) );
         line.remove_prefix( end + 1 );
-        for( const auto &[ name, ch ] : { std::pair{ "<TAB>", '\t' }, { "<01>", '\x01' }, { "<7F>", '\x7f' } } )
-            for( size_t at; ( at = texts.back().find( name ) ) != std::string::npos; )
-                texts.back().replace( at, std::strlen( name ), 1, ch );
+        std::string &text = texts.back();
+        for( size_t at = 0; ( at = text.find( '<', at ) ) != std::string::npos; ++at )
+            if( text.compare( at, 5, "<TAB>" ) == 0 )
+                text.replace( at, 5, "\t" );
+            else if( text.size() >= at + 4 && text[ at + 3 ] == '>' && std::isxdigit( text[ at + 1 ] ) )
+                text.replace( at, 4, 1, char( std::stoi( text.substr( at + 1, 2 ), nullptr, 16 ) ) );
     }
     return texts;
 }
@@ -49,6 +52,29 @@ template< class Check > void ForEveryRow( const char *file, Check check )
 }
 
 bool Same( PbObj *a, PbObj *b ) { return a && b ? pbObjCompare( a, b ) == 0 : a == b; }
+
+// ---- Single texts ----------------------------------------------------------------------------------
+
+// What a function gives; "none" for null, false and -1.
+std::string ResultOf( const std::string &function, const std::string &given )
+{
+    const auto text = Str( given );
+    if( function.ends_with( "Ok" ) ) return Exported< bool( PbString * ) >( function )( text.Get() ) ? given : "none";
+    pb::Ref result{ function.ends_with( "Decode" ) ? Exported< PbString *( const PbChar *, int64_t ) >( function )(
+                                                         Chars( given ).data(), pbStringLength( text.Get() ) )
+                                                   : Exported< PbString *( PbString * ) >( function )( text.Get() ) };
+    EXPECT_EQ( result.Get() == text.Get(), Text( result.Get() ) == given && !function.ends_with( "Decode" ) );
+    return result ? Text( result.Get() ) : "none";
+}
+
+TEST( SipsnText, OfTokens )
+{
+    ForEveryRow( "tokens.txt", []( const std::string &name, const Texts &texts, bool decodes, const Texts &expected ) {
+        ASSERT_TRUE( Exported< void >( name ) );
+        for( size_t at = 0; at < texts.size(); ++at )
+            EXPECT_EQ( ResultOf( name, texts[ at ] ), decodes ? expected[ at ] : "none" );
+    } );
+}
 
 // ---- Values ----------------------------------------------------------------------------------------
 
