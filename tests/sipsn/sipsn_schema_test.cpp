@@ -94,6 +94,23 @@ TEST( SipsnSchema, TellsWhyALineDoesNotDecode )
     }
 }
 
+// Objects compare by their members in this order, and JSON shows them in it.
+TEST( SipsnSchema, MembersHaveTheirOrder )
+{
+    std::ifstream              expected{ SIPSN_SOURCE_DIR "/tests/sipsn/members.txt" };
+    std::vector< std::string > rows, types;
+    for( std::string row; std::getline( expected, row ); )
+        if( !row.starts_with( "#" ) ) rows.push_back( row );
+    ForEveryDescribedType( [ & ]( const SipsnSchemaType *type ) {
+        std::string row = type->name;
+        for( int64_t at = 0; at < type->memberCount; ++at )
+            row += std::string( at ? " " : ": " ) + sipsnSchemaMemberAt( type, at )->name +
+                   ( sipsnSchemaMemberAt( type, at )->optional ? "?" : "" );
+        types.push_back( row );
+    } );
+    EXPECT_THAT( types, testing::UnorderedElementsAreArray( rows ) );
+}
+
 // A member that is written as a parameter takes the place of a generic parameter of its name.
 TEST( SipsnSchema, MembersHideTheParametersOfTheirNames )
 {
