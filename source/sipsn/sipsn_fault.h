@@ -32,35 +32,35 @@ typedef struct SipsnFault
 
 enum
 {
-    SIPSN_FAULT_NONE,
-    SIPSN_FAULT_NO_MESSAGE, /* nothing but line ends, or nothing at all */
+    SIPSN_FAULT_NONE       = 0,
+    SIPSN_FAULT_NO_MESSAGE = 1, /* nothing but line ends, or nothing at all */
 
-    SIPSN_FAULT_LINE_END_BEFORE_MESSAGE, /* one that is not CR LF */
-    SIPSN_FAULT_START_LINE,              /* neither a request line nor a status line */
-    SIPSN_FAULT_START_LINE_BLANK,        /* one too many, or one that is not a space */
-    SIPSN_FAULT_METHOD,
-    SIPSN_FAULT_URI,
-    SIPSN_FAULT_URI_BLANK, /* within it */
-    SIPSN_FAULT_VERSION,
-    SIPSN_FAULT_STATUS_CODE,
+    SIPSN_FAULT_LINE_END_BEFORE_MESSAGE = 2, /* one that is not CR LF */
+    SIPSN_FAULT_START_LINE              = 3, /* neither a request line nor a status line */
+    SIPSN_FAULT_START_LINE_BLANK        = 4, /* one too many, or one that is not a space */
+    SIPSN_FAULT_METHOD                  = 5,
+    SIPSN_FAULT_URI                     = 6,
+    SIPSN_FAULT_URI_BLANK               = 7, /* within it */
+    SIPSN_FAULT_VERSION                 = 8,
+    SIPSN_FAULT_STATUS_CODE             = 9,
 
-    SIPSN_FAULT_UTF8, /* at the first byte that is ill-formed */
+    SIPSN_FAULT_UTF8 = 10, /* at the first byte that is ill-formed */
 
-    SIPSN_FAULT_FIELD_NAME,         /* at the character that a name cannot have */
-    SIPSN_FAULT_FIELD_NAME_MISSING, /* before the colon */
-    SIPSN_FAULT_FIELD_NAME_BLANK,   /* before or within it */
-    SIPSN_FAULT_COLON,              /* missing behind the name */
-    SIPSN_FAULT_SECOND_START_LINE,  /* where a header field should stand */
+    SIPSN_FAULT_FIELD_NAME         = 11, /* at the character that a name cannot have */
+    SIPSN_FAULT_FIELD_NAME_MISSING = 12, /* before the colon */
+    SIPSN_FAULT_FIELD_NAME_BLANK   = 13, /* before or within it */
+    SIPSN_FAULT_COLON              = 14, /* missing behind the name */
+    SIPSN_FAULT_SECOND_START_LINE  = 15, /* where a header field should stand */
 
-    SIPSN_FAULT_LINE_FEED,       /* alone as a line end: the empty line does not end the header fields */
-    SIPSN_FAULT_CARRIAGE_RETURN, /* the same */
-    SIPSN_FAULT_EMPTY_LINE,      /* missing behind the header fields */
+    SIPSN_FAULT_LINE_FEED       = 16, /* alone as a line end: the empty line does not end the header fields */
+    SIPSN_FAULT_CARRIAGE_RETURN = 17, /* the same */
+    SIPSN_FAULT_EMPTY_LINE      = 18, /* missing behind the header fields */
 
-    SIPSN_FAULT_CONTENT_LENGTH,         /* not a length */
-    SIPSN_FAULT_CONTENT_LENGTH_MISSING, /* which a stream needs */
-    SIPSN_FAULT_BODY_SHORT,             /* fewer bytes than Content-Length says */
-    SIPSN_FAULT_BODY_LONG,              /* more bytes, and they do not begin a message */
-    SIPSN_FAULT_BODY_RUNS_OVER          /* the next message begins elsewhere than Content-Length says */
+    SIPSN_FAULT_CONTENT_LENGTH         = 19, /* not a length */
+    SIPSN_FAULT_CONTENT_LENGTH_MISSING = 20, /* which a stream needs */
+    SIPSN_FAULT_BODY_SHORT             = 21, /* fewer bytes than Content-Length says */
+    SIPSN_FAULT_BODY_LONG              = 22, /* more bytes, and they do not begin a message */
+    SIPSN_FAULT_BODY_RUNS_OVER         = 23  /* the next message begins elsewhere than Content-Length says */
 };
 
 /* What is wrong and what would have been accepted, as a new string: "expected a colon after the header field name". The

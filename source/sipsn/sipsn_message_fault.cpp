@@ -18,27 +18,13 @@ int64_t TokenLength( Bytes text ) { return ScanHeaderName( text.data, text.lengt
 Bytes   BehindToken( Bytes text ) { return text.From( TokenLength( text ) ); }
 bool    IsToken( Bytes text ) { return !text.Empty() && BehindToken( text ).Empty(); }
 
-bool IsContinuation( PbByte byte ) { return ( byte & 0xC0 ) == 0x80; }
-
-// The first character of a text, empty at the end of a line. A byte that is ill-formed counts as one.
-Bytes FirstChar( Bytes text )
-{
-    int64_t length = text.Empty() || IsLineEnd( text.Front() ) ? 0 : 1;
-    while( length > 0 && length < text.length && IsContinuation( text.data[ length ] ) ) ++length;
-    return text.First( length );
-}
-
 // Where a text stops to be UTF-8; its end when it is.
 Bytes FindIllFormed( Bytes text )
 {
+    PbChar ch;
     while( !text.Empty() ) {
-        const PbByte  lead   = text.Front();
-        const int64_t length = std::min< int64_t >( lead < 0x80   ? 1
-                                                    : lead < 0xE0 ? 2
-                                                    : lead < 0xF0 ? 3
-                                                                  : 4,
-                                                    text.length );
-        if( lead >= 0x80 && !pb::Ref{ pb___StringTryCreateFromUtf8( text.data, length ) } ) return text.First( 1 );
+        const int64_t length = pb::DecodeUtf8Sequence( ch, text.data, text.length );
+        if( ch < 0 ) return text.First( 1 );
         text = text.From( length );
     }
     return text;
@@ -172,36 +158,7 @@ Explanation FindEmptyLine( Bytes head, const PbByte *end )
     return { SIPSN_FAULT_NONE, {} };
 }
 
-// ---- Values in their lines -------------------------------------------------------------------------
-
-// The place in the lines of a field that the byte at `index` of its text comes from; that of a line end for a space
-// that stands for one.
-const PbByte *PlaceInLines( Bytes lines, int64_t index )
-{
-    const PbByte *end = lines.data;
-    while( !lines.Empty() ) {
-        const Bytes line = Trim( TakeLine( lines ) );
-        if( line.Empty() ) continue;
-        if( index <= line.length ) return line.data + index;
-        index -= line.length + 1;
-        end = line.End();
-    }
-    return end;
-}
-
-Bytes ValueOf( Bytes field ) { return SkipBlanks( field.From( Find( field, ':' ) + 1 ) ); }
-
 } // namespace
-
-const PbByte *PlaceInValue( Bytes lines, int64_t index )
-{
-    FieldCutter field{ lines };
-    field.Next();
-    const Bytes text  = field.Text();
-    Bytes       value = ValueOf( text );
-    for( ; index > 0 && !value.Empty(); --index ) value = value.From( FirstChar( value ).length );
-    return PlaceInLines( lines, value.data - text.data );
-}
 
 Bytes FindContentLength( Bytes head )
 {
@@ -209,10 +166,10 @@ Bytes FindContentLength( Bytes head )
     TakeLine( lines );
     FieldCutter field{ lines };
     while( field.Next() ) {
-        if( ScanHeaderName( field.Text().data, field.Text().length ).number != HeaderNumber( "Content-Length" ) )
-            continue;
-        const PbByte *begin = PlaceInValue( field.Lines(), 0 );
-        found               = { begin, PlaceInValue( field.Lines(), INT64_MAX ) - begin };
+        const Bytes text = field.Text();
+        if( ScanHeaderName( text.data, text.length ).number != HeaderNumber( "Content-Length" ) ) continue;
+        const ValueCharacters value{ field.Lines() };
+        found = { value.Place(), value.End() - value.Place() };
     }
     return found;
 }

@@ -15,10 +15,6 @@
 
 #include <bit>
 
-#if defined( __SSE2__ )
-#include <emmintrin.h>
-#endif
-
 namespace sipsn {
 
 int64_t ReadStatusCode( Bytes digits )
@@ -211,19 +207,13 @@ bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
 int64_t FindHeaderEnd( const PbByte *bytes, int64_t length, int64_t position )
 {
     const auto endsAt = [ = ]( int64_t at ) { return std::memcmp( bytes + at, "\r\n\r\n", 4 ) == 0; };
-#if defined( __SSE2__ )
     // A CR with another one two bytes on is rare enough to look closer.
-    const __m128i cr = _mm_set1_epi8( '\r' );
+    const pb::Block cr = pb::Block::Of( '\r' );
     for( ; position + 16 + 3 <= length; position += 16 ) {
-        const auto load = [ & ]( int64_t at ) {
-            return _mm_loadu_si128( reinterpret_cast< const __m128i * >( bytes + at ) );
-        };
-        const __m128i both =
-            _mm_and_si128( _mm_cmpeq_epi8( load( position ), cr ), _mm_cmpeq_epi8( load( position + 2 ), cr ) );
-        for( unsigned found = unsigned( _mm_movemask_epi8( both ) ); found != 0; found &= found - 1 )
+        const auto crs = [ & ]( int64_t at ) { return pb::Block::Load( bytes + at ).Equal( cr ); };
+        for( uint32_t found = crs( position ) & crs( position + 2 ); found != 0; found &= found - 1 )
             if( endsAt( position + std::countr_zero( found ) ) ) return position + std::countr_zero( found );
     }
-#endif
     for( ; position + 4 <= length; ++position )
         if( endsAt( position ) ) return position;
     return -1;

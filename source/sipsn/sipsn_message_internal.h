@@ -123,9 +123,6 @@ Explanation ExplainNoHeaderEnd( Bytes head );
 // The value of the last Content-Length in a header block, as it stands; empty, at the end, when there is none.
 Bytes FindContentLength( Bytes head );
 
-// Where the character at `index` of the value of a field stands in the lines of the field.
-const PbByte *PlaceInValue( Bytes lines, int64_t index );
-
 // The offset of the first start line behind the first line; -1 when there is none.
 int64_t FindStartLine( Bytes bytes );
 

@@ -4,12 +4,10 @@
 
 #include "pb/pb_buffer.h"
 #include "pb/pb_frame.h"
+#include "pb/pb_text.h"
 
+#include <bit>
 #include <cstring>
-
-#if defined( __SSE2__ )
-#include <emmintrin.h>
-#endif
 
 namespace sipsn {
 
@@ -49,19 +47,24 @@ inline int64_t Find( Bytes text, char wanted )
     return found ? static_cast< const PbByte * >( found ) - text.data : -1;
 }
 
+// The first character of a text, empty at the end of a line. An ill-formed byte counts as one.
+inline Bytes FirstChar( Bytes text )
+{
+    int64_t length = text.Empty() || IsLineEnd( text.Front() ) ? 0 : 1;
+    while( length > 0 && length < text.length && ( text.data[ length ] & 0xC0 ) == 0x80 ) ++length;
+    return text.First( length );
+}
+
 // How many bytes stand before the first CR or LF.
 inline int64_t FindLineEnd( Bytes text )
 {
-    int64_t at = 0;
-#if defined( __SSE2__ )
-    const __m128i cr = _mm_set1_epi8( '\r' );
-    const __m128i lf = _mm_set1_epi8( '\n' );
+    int64_t         at = 0;
+    const pb::Block cr = pb::Block::Of( '\r' ), lf = pb::Block::Of( '\n' );
     for( ; at + 16 <= text.length; at += 16 ) {
-        const __m128i block = _mm_loadu_si128( reinterpret_cast< const __m128i * >( text.data + at ) );
-        const int found = _mm_movemask_epi8( _mm_or_si128( _mm_cmpeq_epi8( block, cr ), _mm_cmpeq_epi8( block, lf ) ) );
-        if( found ) return at + __builtin_ctz( unsigned( found ) );
+        const pb::Block block = pb::Block::Load( text.data + at );
+        const uint32_t  found = block.Equal( cr ) | block.Equal( lf );
+        if( found ) return at + std::countr_zero( found );
     }
-#endif
     while( at < text.length && !IsLineEnd( text.data[ at ] ) ) ++at;
     return at;
 }
@@ -103,7 +106,7 @@ public:
         return joined_ ? Bytes{ pbBufferBacking( joined_.Get() ), pbBufferLength( joined_.Get() ) } : line_;
     }
 
-    // The field as it stands, from its name to its line end.
+    // The field as it stands, from its name to its last line end.
     Bytes Lines() const { return { line_.data, rest_.data - line_.data }; }
 
 private:
@@ -118,6 +121,40 @@ private:
     Bytes               rest_;
     Bytes               line_; // the field's first one
     pb::Ref< PbBuffer > joined_;
+};
+
+// Moves over the characters of a field's value as it stands, in the order in which the decoder joins them: one space
+// for each line end and the blanks around it.
+class ValueCharacters
+{
+public:
+    explicit ValueCharacters( Bytes lines ) : rest_{ lines }
+    {
+        while( !rest_.Empty() && ( IsBlank( rest_.End()[ -1 ] ) || IsLineEnd( rest_.End()[ -1 ] ) ) ) --rest_.length;
+        line_ = Trim( TakeLine( rest_ ) );
+        while( !AtEnd() && Front() != ':' ) Next();
+        do Next();
+        while( !AtEnd() && IsBlank( Front() ) );
+    }
+
+    bool          AtEnd() const { return line_.Empty() && rest_.Empty(); }
+    PbByte        Front() const { return line_.Empty() ? PbByte( ' ' ) : line_.Front(); }
+    const PbByte *Place() const { return line_.data; }
+    const PbByte *End() const { return rest_.End(); }
+
+    // Stays at the end.
+    void Next()
+    {
+        if( !line_.Empty() ) {
+            line_ = line_.From( FirstChar( line_ ).length );
+            return;
+        }
+        while( line_.Empty() && !rest_.Empty() ) line_ = Trim( TakeLine( rest_ ) );
+    }
+
+private:
+    Bytes line_; // what is left of the current one
+    Bytes rest_; // the lines behind it, the last of which is not blank
 };
 
 } // namespace sipsn

@@ -142,7 +142,7 @@ bool sipsnMessagePlaceNextField( PbBuffer *buf, const SipsnMessagePlace *place, 
     if( !cutter.Next() ) return false;
     const Bytes lines = cutter.Lines();
     sipsnPlaceAdvance( &begin, buf, lines.data - head.data );
-    *field = { begin, sipsn::PlaceInValue( lines, INT64_MAX ) - lines.data };
+    *field = { begin, sipsn::ValueCharacters( lines ).End() - lines.data };
     return true;
 }
 
@@ -158,14 +158,20 @@ PbString *sipsnFieldPlaceName( PbBuffer *buf, const SipsnFieldPlace *field )
     return sipsn::CapitaliseHeaderName( lines.data, name.length );
 }
 
-void sipsnFieldPlaceOfChar( PbBuffer *buf, const SipsnFieldPlace *field, int64_t index, SipsnPlace *place )
+void sipsnFieldPlacesOfChars( PbBuffer *buf, const SipsnFieldPlace *field, const int64_t *indexes, SipsnPlace *places,
+                              int64_t count )
 {
     PB_ASSERT( buf );
     PB_ASSERT( field );
     PB_ASSERT( IsWithin( buf, field ) );
-    PB_ASSERT( index >= 0 );
-    PB_ASSERT( place );
+    PB_ASSERT( count == 0 || ( indexes && places ) );
 
-    *place = field->begin;
-    sipsnPlaceAdvance( place, buf, sipsn::PlaceInValue( LinesOf( buf, field ), index ) - pbBufferBacking( buf ) );
+    sipsn::ValueCharacters value{ LinesOf( buf, field ) };
+    SipsnPlace             place = field->begin;
+    for( int64_t at = 0, index = 0; at < count; ++at ) {
+        PB_ASSERT( indexes[ at ] >= ( at > 0 ? indexes[ at - 1 ] : 0 ) );
+        for( ; index < indexes[ at ] && !value.AtEnd(); ++index ) value.Next();
+        sipsnPlaceAdvance( &place, buf, value.Place() - pbBufferBacking( buf ) );
+        places[ at ] = place;
+    }
 }

@@ -20,8 +20,8 @@ PB_BEGIN_DECLS
  * all bytes that are there. On a stream it must have both. */
 enum
 {
-    SIPSN_FRAMING_DATAGRAM,
-    SIPSN_FRAMING_STREAM
+    SIPSN_FRAMING_DATAGRAM = 1,
+    SIPSN_FRAMING_STREAM   = 2
 };
 
 /* Where a message stands in a buffer. */
@@ -58,10 +58,11 @@ PB_API bool sipsnMessagePlaceNextField( PbBuffer *buf, const SipsnMessagePlace *
 /* The canonical name of the field, as a new string. */
 PB_API PbString *sipsnFieldPlaceName( PbBuffer *buf, const SipsnFieldPlace *field );
 
-/* Sets *place to where a character of the field's value stands; `index` counts the characters of the line that
- * sipsnMessageHeaderLineAt gives, in which a space stands for a line end and the blanks around it. The end of the value
- * for an index beyond it. */
-PB_API void sipsnFieldPlaceOfChar( PbBuffer *buf, const SipsnFieldPlace *field, int64_t index, SipsnPlace *place );
+/* Sets places[ n ] to where the character at indexes[ n ] of the field's value stands, for `count` indexes in ascending
+ * order. They count in the line that sipsnMessageHeaderLineAt gives, in which a space stands for a line end and the
+ * blanks around it; one beyond the value gives its end. Takes as long as the value is. */
+PB_API void sipsnFieldPlacesOfChars( PbBuffer *buf, const SipsnFieldPlace *field, const int64_t *indexes,
+                                     SipsnPlace *places, int64_t count );
 
 PB_END_DECLS
 #endif

@@ -218,11 +218,11 @@ TEST( SipsnMessageReader, FindsFieldsAndTheirCharacters )
     SipsnFieldPlace field{};
     while( sipsnMessagePlaceNextField( buf.Get(), &message, &field ) ) {
         found += Take( sipsnFieldPlaceName( buf.Get(), &field ) ) + " of " + std::to_string( field.length ) + ": ";
-        for( int64_t index : { 0, 1, 4, 5, 6, 7, 99 } ) {
-            SipsnPlace place;
-            sipsnFieldPlaceOfChar( buf.Get(), &field, index, &place );
+        const int64_t indexes[] = { 0, 1, 4, 5, 6, 7, 99 };
+        SipsnPlace    places[ std::size( indexes ) ];
+        sipsnFieldPlacesOfChars( buf.Get(), &field, indexes, places, std::size( indexes ) );
+        for( const SipsnPlace &place : places )
             found += std::to_string( place.line ) + ':' + std::to_string( place.column ) + ' ';
-        }
     }
     EXPECT_EQ( found, "To of 22: 3:6 3:7 3:10 3:11 5:3 5:4 5:4 Content-Length of 4: 6:4 6:5 6:5 6:5 6:5 6:5 6:5 "
                       "Q of 4: 8:3 8:3 8:3 8:3 8:3 8:3 8:3 " );

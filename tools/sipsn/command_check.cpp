@@ -1,11 +1,8 @@
 // sipsn check: one verdict for each message, or one for each header field that does not decode.
 #include "commands.h"
-#include "family.h"
 #include "fault.h"
 #include "input.h"
 
-#include <algorithm>
-#include <map>
 #include <memory>
 
 namespace tool {
@@ -13,67 +10,75 @@ namespace tool {
 namespace {
 
 constexpr const char *footer =
-    R"(Prints "FILE: ok", or "FILE:LINE: reason" with the line at fault: that of a message that cannot be read, or each header field
-that has a type (sipsn headers) and does not decode. In a file of several messages the good ones have the line that they
-begin in. What follows a message that cannot be read is not looked at, as nobody can know where it begins.
+    R"(Prints "FILE: ok", or "FILE:LINE:COLUMN: reason" with the place and the text at fault: where a message stops to be one, and
+each header field that has a type (sipsn headers) and does not decode. On a terminal the line is shown with a mark under the
+place. In a file of several messages the good ones have the line that they begin in. What follows a message that cannot be
+read is not looked at, as nobody can know where it begins.
+
+A message is ok when a stream decoder reads it; "ok as a datagram" is one that only lacks the Content-Length that a stream needs,
+and that reaches to the end of its file. The last line, on standard error, counts messages.
+
+JSON is a line for each finding: "file", "line", "column" and "offset" of the place, "header" when it is in the value of a
+header field (else null), "reason" and "text".
 
 Examples:
   sipsn check invite.sip
   sipsn check captures/*.sip | grep -v ': ok$'
+  sipsn check --json captures/*.sip | jq -r .header | sort | uniq -c
   sipsn check invite.sip > /dev/null && echo good)";
 
-// The lines in the file of the header fields of each name, in order.
-std::map< std::string, std::vector< int64_t > > FieldLines( const FoundMessage &found )
+struct Options
 {
-    std::map< std::string, std::vector< int64_t > > lines;
-    int64_t                                         line    = found.line;
-    size_t                                          counted = 0;
-    ForEachHeaderField( found.bytes, [ & ]( const std::string &name, size_t offset ) {
-        line += LineAt( found.bytes.substr( counted ), offset - counted ) - 1;
-        counted = offset;
-        lines[ name ].push_back( line );
-    } );
-    return lines;
-}
+    std::vector< std::string > files;
+    bool                       json = false;
+};
 
-// What is malformed in a message that decodes, by line; only its offset is the number of a line here.
-std::vector< BadLine > FindBadFields( const FoundMessage &found )
+struct Tally
 {
-    std::vector< BadLine >  bad;
-    const auto              lines = FieldLines( found );
-    const Owned< PbVector > headers{ sipsnMessageHeadersVector( found.message.Get() ) };
-    for( int64_t at = 0; at < pbVectorLength( headers.Get() ); ++at ) {
-        const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderFrom( pbVectorAt( headers.Get(), at ) ) };
-        const std::string                 name   = Utf8( Owned{ sipsnMessageHeaderName( header.Get() ) } );
-        const Family                     *family = FindFamily( name );
-        if( !family ) continue;
-        for( const BadLine &line : FindBadLines( *family, header.Get() ) )
-            bad.push_back( { lines.at( name ).at( size_t( line.index ) ), line.reason } );
-    }
-    std::stable_sort( bad.begin(), bad.end(), []( const auto &a, const auto &b ) { return a.index < b.index; } );
-    return bad;
+    int64_t messages = 0, bad = 0, badFields = 0;
+};
+
+void PrintFinding( const Input &input, const Finding &finding, const Options &options )
+{
+    if( !options.json ) return Print( DescribeFinding( input, finding, OutputIsTerminal() ) );
+    PrintJsonLine( { { "file", input.name },
+                     { "line", finding.place.line },
+                     { "column", finding.place.column },
+                     { "offset", finding.place.offset },
+                     { "header", finding.header.empty() ? Json() : Json( finding.header ) },
+                     { "reason", finding.reason },
+                     { "text", finding.text } } );
 }
 
 // `onlyOne` in its file, a good message needs no line.
-Status CheckMessage( const Input &input, const FoundMessage &found, bool onlyOne )
+void CheckMessage( const Input &input, const FoundMessage &found, bool onlyOne, const Options &options, Tally &tally )
 {
-    const auto bad =
-        found.message ? FindBadFields( found ) : std::vector< BadLine >{ { found.faultLine, found.reason } };
-    for( const BadLine &line : bad ) PrintLine( Place( input, line.index ) + ": " + Paint( Ink::bad, line.reason ) );
-    if( !bad.empty() ) return someFailed;
-    PrintLine( ( onlyOne ? input.name : Place( input, found.line ) ) + ": " + Paint( Ink::good, "ok" ) );
-    return allWell;
+    std::vector< Finding > findings;
+    if( found.message ) findings = FindBadFields( input, found );
+    tally.badFields += int64_t( findings.size() );
+    const bool onlyDatagram = found.fault.kind == SIPSN_FAULT_CONTENT_LENGTH_MISSING;
+    if( found.fault.kind != SIPSN_FAULT_NONE && !onlyDatagram ) findings.push_back( FindingOf( input, found.fault ) );
+
+    for( const Finding &finding : findings ) PrintFinding( input, finding, options );
+    ++tally.messages;
+    tally.bad += !findings.empty();
+    if( findings.empty() && !options.json )
+        PrintLine( ( onlyOne ? input.name : Place( input, found.place.begin.line ) ) + ": " +
+                   Paint( Ink::good, onlyDatagram ? "ok as a datagram" : "ok" ) );
 }
 
-Status RunCheck( const std::vector< std::string > &files )
+Status RunCheck( const Options &options )
 {
-    return ForEachInput( files, []( const Input &input ) {
-        Status                            status   = allWell;
-        const std::vector< FoundMessage > messages = FindMessages( input.bytes );
-        for( const FoundMessage &found : messages )
-            Worsen( status, CheckMessage( input, found, messages.size() == 1 ) );
-        return status;
+    Tally        tally;
+    const Status status = ForEachInput( options.files, [ & ]( const Input &input ) {
+        const int64_t                     badBefore = tally.bad;
+        const std::vector< FoundMessage > messages  = FindMessages( input, Framing::either );
+        for( const FoundMessage &found : messages ) CheckMessage( input, found, messages.size() == 1, options, tally );
+        return tally.bad > badBefore ? someFailed : allWell;
     } );
+    ComplainInLines( Count( tally.messages, "message" ) + ", " + std::to_string( tally.bad ) + " bad, " +
+                     Count( tally.badFields, "bad header field" ) + '\n' );
+    return status;
 }
 
 } // namespace
@@ -81,10 +86,11 @@ Status RunCheck( const std::vector< std::string > &files )
 void AddCheck( CLI::App &app, Task &task )
 {
     CLI::App *command = app.add_subcommand( "check", "Say of each message and header field whether it is well-formed" );
-    auto      files   = std::make_shared< std::vector< std::string > >();
+    auto      options = std::make_shared< Options >();
     command->footer( footer );
-    command->add_option( "FILE", *files, filesHelp )->type_name( "" );
-    command->callback( [ &task, files ] { task = [ files ] { return RunCheck( *files ); }; } );
+    command->add_option( "FILE", options->files, filesHelp )->type_name( "" );
+    command->add_flag( "--json", options->json, "Print findings as JSON, one a line" );
+    command->callback( [ &task, options ] { task = [ options ] { return RunCheck( *options ); }; } );
 }
 
 } // namespace tool

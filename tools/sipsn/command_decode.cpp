@@ -1,6 +1,7 @@
 // sipsn decode: messages as trees or as JSON.
 #include "commands.h"
 #include "family.h"
+#include "fault.h"
 #include "input.h"
 
 #include <algorithm>
@@ -17,8 +18,9 @@ header field that has a type (sipsn headers) is shown with its members, or with 
 when it does not decode. Of a header field with one value the last line counts.
 
 JSON is one array with an object for each message. A header field has its "lines"; by its type it has "members", or "items",
-or "error" when it does not decode. All of the body is there as "text" (UTF-8) or "hex". What is no message has "error" and
-its line. "sipsn encode --json" makes messages of it again; "sipsn headers --json-schema" prints its JSON Schema.
+or "error" when it does not decode. All of the body is there as "text" (UTF-8) or "hex". What is wrong with a file has an
+object of its own, with "error", its line and column, and the text of the line. "sipsn encode --json" makes messages of it again;
+"sipsn headers --json-schema" prints its JSON Schema.
 
 Examples:
   sipsn decode invite.sip
@@ -114,14 +116,19 @@ Json Describe( SipsnMessage *message, bool raw )
     return described;
 }
 
-Json Describe( const Input &input, const FoundMessage &found, bool raw )
+void AddJson( Json &array, const Input &input, const FoundMessage &found, bool raw )
 {
-    Json described{ { "file", input.name }, { "line", found.message ? found.line : found.faultLine } };
-    if( found.message )
-        described.update( Describe( found.message.Get(), raw ) );
-    else
-        described[ "error" ] = found.reason;
-    return described;
+    if( found.message ) {
+        array.push_back( { { "file", input.name }, { "line", found.place.begin.line } } );
+        array.back().update( Describe( found.message.Get(), raw ) );
+    }
+    if( found.fault.kind == SIPSN_FAULT_NONE ) return;
+    const Finding finding = FindingOf( input, found.fault );
+    array.push_back( { { "file", input.name },
+                       { "line", finding.place.line },
+                       { "column", finding.place.column },
+                       { "error", finding.reason },
+                       { "text", finding.text } } );
 }
 
 // ---- Trees -----------------------------------------------------------------------------------------
@@ -262,7 +269,8 @@ Node MakeMessageNode( SipsnMessage *message, const Options &options )
 void PrintMessage( const Input &input, const FoundMessage &found, const Options &options, bool oneOfMany )
 {
     static bool first = true;
-    if( oneOfMany ) PrintLine( ( first ? "" : "\n" ) + Paint( Ink::note, "== " + Place( input, found.line ) ) );
+    if( oneOfMany )
+        PrintLine( ( first ? "" : "\n" ) + Paint( Ink::note, "== " + Place( input, found.place.begin.line ) ) );
     first = false;
     PrintTree( MakeMessageNode( found.message.Get(), options ) );
 }
@@ -271,11 +279,11 @@ Status RunDecode( const Options &options )
 {
     Json       array  = Json::array();
     const auto status = ForEachInput( options.files, [ & ]( const Input &input ) {
-        const std::vector< FoundMessage > messages  = FindMessages( input.bytes );
+        const std::vector< FoundMessage > messages  = FindMessages( input, Framing::datagram );
         const bool                        oneOfMany = options.files.size() > 1 || messages.size() > 1;
         for( const FoundMessage &found : messages ) {
             if( options.json )
-                array.push_back( Describe( input, found, options.raw ) );
+                AddJson( array, input, found, options.raw );
             else if( found.message )
                 PrintMessage( input, found, options, oneOfMany );
         }

@@ -1,6 +1,7 @@
 // sipsn encode: messages in their canonical wire form.
 #include "build.h"
 #include "commands.h"
+#include "fault.h"
 #include "input.h"
 
 #include <algorithm>
@@ -82,7 +83,7 @@ Status RunEncode( const std::vector< std::string > &files, bool json )
 {
     if( json ) return ForEachInput( files, EncodeJson );
     return ForEachInput( files, []( const Input &input ) {
-        const std::vector< FoundMessage > messages = FindMessages( input.bytes );
+        const std::vector< FoundMessage > messages = FindMessages( input, Framing::datagram );
         for( const FoundMessage &found : messages )
             if( found.message ) PrintWire( found.message.Get() );
         return ComplainOfFaults( input, messages );

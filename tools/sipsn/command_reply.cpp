@@ -1,9 +1,12 @@
 // sipsn reply: the response to a request.
 #include "commands.h"
 #include "family.h"
+#include "fault.h"
 #include "input.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <memory>
 #include <random>
 
@@ -85,20 +88,19 @@ Owned< SipsnMessage > MakeResponse( SipsnMessage *request, const Options &option
 
 // ---- What can be answered --------------------------------------------------------------------------
 
-// Why a message has no response; none when it has one.
+constexpr const char *required[] = { "Via", "From", "To", "Call-Id", "Cseq" };
+
+// Why a message has no response; none when it has one, if its header fields decode.
 std::string ReasonNotToAnswer( SipsnMessage *message )
 {
     if( !sipsnMessageIsRequest( message ) ) return "a response, not a request";
     if( Utf8( Owned{ sipsnMessageRequestMethod( message ) } ) == "ACK" ) return "an ACK, which has no response";
-    for( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } ) {
+    for( const char *name : required ) {
         const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderCstr( message, name, -1 ) };
-        const std::string missing = std::string( "no " ) + name + ", without which there is no response";
-        if( !header ) return missing;
-        const Family                &family = *FindFamily( name );
-        const std::vector< BadLine > bad    = FindBadLines( family, header.Get() );
-        if( !bad.empty() ) return bad[ 0 ].reason;
-        const auto typed = TryDecode( family, header.Get() );
-        if( family.shape == SIPSN_SCHEMA_SHAPE_LIST && typed->items.empty() ) return missing;
+        const Family                     &family = *FindFamily( name );
+        const auto                        typed  = header ? TryDecode( family, header.Get() ) : Typed{};
+        if( !header || ( typed && family.shape == SIPSN_SCHEMA_SHAPE_LIST && typed->items.empty() ) )
+            return std::string( "no " ) + name + ", without which there is no response";
     }
     return {};
 }
@@ -107,9 +109,14 @@ Status AnswerMessage( const Input &input, const FoundMessage &found, const Optio
 {
     const std::string reason = ReasonNotToAnswer( found.message.Get() );
     if( !reason.empty() ) {
-        Complain( Place( input, found.line ), reason );
+        Complain( Place( input, found.place.begin.line ), reason );
         return someFailed;
     }
+    for( const Finding &bad : FindBadFields( input, found ) )
+        if( std::find( std::begin( required ), std::end( required ), bad.header ) != std::end( required ) ) {
+            ComplainInLines( DescribeFinding( input, bad, ErrorsAreOnTerminal() ) );
+            return someFailed;
+        }
     PrintWire( MakeResponse( found.message.Get(), options ).Get() );
     return allWell;
 }
@@ -117,7 +124,7 @@ Status AnswerMessage( const Input &input, const FoundMessage &found, const Optio
 Status RunReply( const Options &options )
 {
     return ForEachInput( { options.file }, [ & ]( const Input &input ) {
-        const std::vector< FoundMessage > messages = FindMessages( input.bytes );
+        const std::vector< FoundMessage > messages = FindMessages( input, Framing::datagram );
         Status                            status   = allWell;
         for( const FoundMessage &found : messages )
             if( found.message ) Worsen( status, AnswerMessage( input, found, options ) );

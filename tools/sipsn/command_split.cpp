@@ -3,6 +3,7 @@
 #include "fault.h"
 #include "input.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -28,12 +29,6 @@ struct Options
     std::string folder;
 };
 
-// The bytes of a message in the stream.
-struct Piece
-{
-    size_t begin, size;
-};
-
 bool WriteFile( const std::filesystem::path &path, std::string_view bytes )
 {
     std::FILE *file    = std::fopen( path.c_str(), "wb" );
@@ -43,54 +38,46 @@ bool WriteFile( const std::filesystem::path &path, std::string_view bytes )
     return written;
 }
 
-Status ReportMessage( const Options &options, std::string_view stream, Piece piece, int64_t number,
-                      SipsnMessage *message )
+Status ReportMessage( const Options &options, const Input &input, const FoundMessage &found, size_t number )
 {
-    const std::string digits = std::to_string( number );
-    const std::string padded = std::string( 3 - std::min< size_t >( digits.size(), 3 ), '0' ) + digits;
-    std::string       where  = "byte " + std::to_string( piece.begin );
+    const auto  begin = size_t( found.place.begin.offset ), size = size_t( found.place.length );
+    std::string digits = std::to_string( number );
+    std::string where  = "byte " + std::to_string( begin );
+    digits.insert( 0, 3 - std::min< size_t >( digits.size(), 3 ), '0' );
     if( !options.folder.empty() ) {
-        const auto path = std::filesystem::path( options.folder ) / ( padded + ".sip" );
-        if( !WriteFile( path, stream.substr( piece.begin, piece.size ) ) ) return cannotRun;
+        const auto path = std::filesystem::path( options.folder ) / ( digits + ".sip" );
+        if( !WriteFile( path, Bytes( input.buffer.Get() ).substr( begin, size ) ) ) return cannotRun;
         where = Escape( path.string() );
     }
-    PrintLine( padded + "  " + where + "  " + Count( int64_t( piece.size ), "byte" ) + "  " +
-               Paint( Ink::strong, StartLine( message ) ) );
+    PrintLine( digits + "  " + where + "  " + Count( int64_t( size ), "byte" ) + "  " +
+               Paint( Ink::strong, StartLine( found.message.Get() ) ) );
     return allWell;
 }
 
-// What the decoder held on to when no message came any more.
-Status ReportRest( const Input &input, size_t begin, bool error )
+// What stands behind the last message. More bytes might complete it, if its fault is that bytes are missing.
+Status ReportRest( const Input &input, const FoundMessage &found )
 {
-    const std::string_view rest  = std::string_view( input.bytes ).substr( begin );
-    const size_t           start = rest.find_first_not_of( "\r\n" );
-    if( start == rest.npos && rest.size() % 2 == 0 ) return allWell;
-
-    const size_t skipped = start == rest.npos ? 0 : start;
-    const Fault  fault   = FindFault( rest.substr( skipped ), Transport::stream );
-    const auto   line    = LineAt( input.bytes, begin + skipped + fault.offset );
-    Complain( Place( input, line ),
-              ( error ? "" : "incomplete, " + Count( int64_t( rest.size() - skipped ), "byte" ) + " left: " ) +
-                  fault.reason );
+    Finding finding = FindingOf( input, found.fault );
+    if( found.fault.kind == SIPSN_FAULT_EMPTY_LINE || found.fault.kind == SIPSN_FAULT_BODY_SHORT )
+        finding.reason = "incomplete, " + Count( found.place.length, "byte" ) + " left: " + finding.reason;
+    ComplainInLines( DescribeFinding( input, finding, ErrorsAreOnTerminal() ) );
     return someFailed;
+}
+
+bool HasOnlyKeepAlives( const Input &input, const SipsnFault &fault )
+{
+    return fault.kind == SIPSN_FAULT_NO_MESSAGE && Bytes( input.buffer.Get() ).size() % 2 == 0;
 }
 
 Status SplitStream( const Options &options, const Input &input )
 {
-    const Owned< SipsnMessageStreamDecoder > decoder{ sipsnMessageStreamDecoderCreate() };
-    const Owned< PbBuffer >                  bytes = MakeBuffer( input.bytes );
-    sipsnMessageStreamDecoderWrite( decoder.Get(), bytes.Get() );
-
-    Status  status = allWell;
-    size_t  begin  = 0;
-    int64_t number = 0;
-    while( const Owned< SipsnMessage > message{ sipsnMessageStreamDecoderRead( decoder.Get() ) } ) {
-        const size_t end = input.bytes.size() - size_t( sipsnMessageStreamDecoderLength( decoder.Get() ) );
-        begin            = input.bytes.find_first_not_of( "\r\n", begin );
-        Worsen( status, ReportMessage( options, input.bytes, { begin, end - begin }, ++number, message.Get() ) );
-        begin = end;
+    Status status = allWell;
+    size_t number = 0;
+    for( const FoundMessage &found : FindMessages( input, Framing::stream ) ) {
+        if( found.message ) Worsen( status, ReportMessage( options, input, found, ++number ) );
+        if( found.fault.kind != SIPSN_FAULT_NONE && !HasOnlyKeepAlives( input, found.fault ) )
+            Worsen( status, ReportRest( input, found ) );
     }
-    Worsen( status, ReportRest( input, begin, sipsnMessageStreamDecoderError( decoder.Get() ) ) );
     return status;
 }
 

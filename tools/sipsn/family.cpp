@@ -27,53 +27,6 @@ std::vector< Item > ItemsOf( const Family &family, PbObj *hdr )
     return items;
 }
 
-// ---- Lines at fault --------------------------------------------------------------------------------
-
-// The header field with some of its lines.
-Owned< SipsnMessageHeader > WithLines( SipsnMessageHeader *header, int64_t begin, int64_t end )
-{
-    const Owned< PbString >     name{ sipsnMessageHeaderName( header ) };
-    Owned< SipsnMessageHeader > some{ sipsnMessageHeaderCreate( name.Get() ) };
-    for( int64_t at = begin; at < end; ++at ) {
-        const Owned< PbString > line{ sipsnMessageHeaderLineAt( header, at ) };
-        sipsnMessageHeaderAppendLine( some.Slot(), line.Get() );
-    }
-    return some;
-}
-
-bool Decodes( const Family &family, SipsnMessageHeader *header, int64_t begin, int64_t end )
-{
-    return TryDecode( family, WithLines( header, begin, end ).Get() ).has_value();
-}
-
-std::string Malformed( const Family &family, std::string_view text )
-{
-    return "malformed " + std::string( family.name ) + ": " + Quote( text );
-}
-
-void AddBadItems( std::vector< BadLine > &bad, const Family &family, SipsnMessageHeader *header, int64_t index )
-{
-    const auto typed = TryDecode( family, WithLines( header, index, index + 1 ).Get() );
-    if( !typed ) {
-        bad.push_back( { index, Malformed( family, Utf8( Owned{ sipsnMessageHeaderLineAt( header, index ) } ) ) } );
-        return;
-    }
-    for( const Item &item : typed->items )
-        if( item.value.is_null() ) bad.push_back( { index, Malformed( family, item.text ) } );
-}
-
-// The first line that is good alone, but not behind those before it.
-BadLine FindMisplacedLine( const Family &family, SipsnMessageHeader *header )
-{
-    int64_t good = 1, length = sipsnMessageHeaderLinesLength( header );
-    while( length - good > 1 ) {
-        const int64_t middle                                     = good + ( length - good ) / 2;
-        ( Decodes( family, header, 0, middle ) ? good : length ) = middle;
-    }
-    return { length - 1, Malformed( family, Utf8( Owned{ sipsnMessageHeaderLineAt( header, length - 1 ) } ) ) +
-                             ", which does not go with the lines before it" };
-}
-
 } // namespace
 
 const Family *FindFamily( std::string_view name )
@@ -114,16 +67,6 @@ std::optional< Reason > WhyNotLine( const Family &family, PbString *line )
     const Owned words{ sipsnSchemaWhyNotLine( &family, line, &place ) };
     if( !words ) return std::nullopt;
     return Reason{ Utf8( words ), place };
-}
-
-std::vector< BadLine > FindBadLines( const Family &family, SipsnMessageHeader *header )
-{
-    std::vector< BadLine > bad;
-    const int64_t          length = sipsnMessageHeaderLinesLength( header );
-    const int64_t first = family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ? length - 1 : 0; // of which the last line counts
-    for( int64_t at = first; at < length; ++at ) AddBadItems( bad, family, header, at );
-    if( bad.empty() && !TryDecode( family, header ) ) bad.push_back( FindMisplacedLine( family, header ) );
-    return bad;
 }
 
 } // namespace tool

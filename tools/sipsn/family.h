@@ -50,12 +50,4 @@ struct Reason
 };
 std::optional< Reason > WhyNotLine( const Family &family, PbString *line );
 
-// A line of a header field that its type refuses, from 0, and why, fit to be printed.
-struct BadLine
-{
-    int64_t     index;
-    std::string reason;
-};
-std::vector< BadLine > FindBadLines( const Family &family, SipsnMessageHeader *header );
-
 } // namespace tool

@@ -1,194 +1,238 @@
-// Where things stand in the bytes of a message: its header fields, and what makes it no message.
-//
-// The grammar stays with the library: a part is at fault when a message that is good in everything else does not decode
-// with it.
+// What is wrong in a file, where, and how that is printed.
 #include "fault.h"
 
-#include "text.h"
-
 #include <algorithm>
-#include <optional>
+#include <map>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace tool {
 
 namespace {
 
-using Text = std::string_view;
-
-constexpr Text goodStartLine = "SIP/2.0 200 OK";
-
-enum class Decoded
+// The line of the file that a byte stands in, without its end.
+std::string_view LineAround( std::string_view bytes, size_t offset )
 {
-    not_,
-    header,
-    request,
-    response
+    const size_t begin = bytes.substr( 0, offset ).find_last_of( "\r\n" ) + 1; // 0 without
+    return bytes.substr( begin, std::min( bytes.find_first_of( "\r\n", offset ), bytes.size() ) - begin );
+}
+
+// ---- Header fields ---------------------------------------------------------------------------------
+
+// Something in a line of a header field that does not decode, and the character of the line at which it stops to make
+// sense.
+struct BadPart
+{
+    int64_t     place;
+    std::string text;
+    std::string reason;
 };
 
-Decoded TryHead( Text head, int64_t *contentLength = nullptr )
+BadPart MakeBadPart( int64_t place, const Owned< PbString > &text, const Owned< PbString > &reason )
 {
-    const Owned< PbBuffer >             bytes = MakeBuffer( head );
-    const Owned< SipsnMessageFragment > fragment{ sipsnMessageFragmentTryDecodeHeaders( bytes.Get(), contentLength ) };
-    if( !fragment ) return Decoded::not_;
-    if( sipsnMessageFragmentIsRequest( fragment.Get() ) ) return Decoded::request;
-    return sipsnMessageFragmentIsResponse( fragment.Get() ) ? Decoded::response : Decoded::header;
+    return { place, Utf8( text ), reason ? Utf8( reason ) : "malformed" };
 }
 
-Decoded TryLine( const std::string &line ) { return TryHead( line + "\r\n" ); }
-
-bool FieldDecodes( Text field )
+Owned< PbObj > TryDecode( const SipsnSchemaFamily &family, SipsnMessageHeader *header )
 {
-    return TryHead( std::string( goodStartLine ) + "\r\n" + std::string( field ) ) != Decoded::not_;
+    return Owned{ sipsnSchemaTryDecodeHeader( &family, header ) };
 }
 
-// The length of the line at the start, and of its end: CR LF, a lone CR or a lone LF.
-struct Line
+// The header field with some of its lines.
+Owned< SipsnMessageHeader > WithLines( SipsnMessageHeader *header, int64_t begin, int64_t end )
 {
-    size_t length, withEnd;
+    const Owned< PbString >     name{ sipsnMessageHeaderName( header ) };
+    Owned< SipsnMessageHeader > some{ sipsnMessageHeaderCreate( name.Get() ) };
+    for( int64_t at = begin; at < end; ++at ) {
+        const Owned< PbString > line{ sipsnMessageHeaderLineAt( header, at ) };
+        sipsnMessageHeaderAppendLine( some.Slot(), line.Get() );
+    }
+    return some;
+}
+
+// The texts of a list of values; null for what is none.
+Owned< PbVector > ItemsOf( const SipsnSchemaFamily &family, PbObj *typed )
+{
+    for( int64_t member = 0; family.itemType && member < family.type->memberCount; ++member )
+        if( sipsnSchemaMemberAt( family.type, member )->kind == SIPSN_SCHEMA_KIND_LIST )
+            return Owned{ pbVectorFrom( sipsnSchemaObject( typed, member ) ) };
+    return {};
+}
+
+// The items of a line that do not decode, which decoding the header field does not find out.
+std::vector< BadPart > FindBadItems( const SipsnSchemaFamily &family, PbObj *typed, PbString *line )
+{
+    std::vector< BadPart >  bad;
+    const Owned< PbVector > items = ItemsOf( family, typed );
+    const PbChar           *chs = pbStringBacking( line ), *end = chs + pbStringLength( line );
+    for( int64_t at = 0, begin = 0; items && at < pbVectorLength( items.Get() ); ++at ) {
+        const Owned< PbString > item{ pbVectorStringAt( items.Get(), at ) };
+        const PbChar           *itemChs = pbStringBacking( item.Get() );
+        const int64_t           length  = pbStringLength( item.Get() );
+        begin                           = std::search( chs + begin, end, itemChs, itemChs + length ) - chs;
+
+        int64_t                 place;
+        const Owned< PbString > reason{ sipsnSchemaWhyNot( family.itemType, item.Get(), &place ) };
+        if( reason ) bad.push_back( MakeBadPart( begin + place, item, reason ) );
+        begin = std::min( begin + length, end - chs );
+    }
+    return bad;
+}
+
+std::vector< BadPart > FindBadParts( const SipsnSchemaFamily &family, SipsnMessageHeader *header, int64_t index )
+{
+    int64_t                 place = 0;
+    const Owned< PbString > line{ sipsnMessageHeaderLineAt( header, index ) };
+    const Owned< PbString > reason{ sipsnSchemaWhyNotLine( &family, line.Get(), &place ) };
+    const Owned< PbObj >    typed = TryDecode( family, WithLines( header, index, index + 1 ).Get() );
+    if( !typed ) return { MakeBadPart( place, line, reason ) };
+    return reason ? FindBadItems( family, typed.Get(), line.Get() ) : std::vector< BadPart >();
+}
+
+// The first line that is good alone, but not behind those before it.
+int64_t FindMisplacedLine( const SipsnSchemaFamily &family, SipsnMessageHeader *header )
+{
+    int64_t good = 1, length = sipsnMessageHeaderLinesLength( header );
+    while( length - good > 1 ) {
+        const int64_t middle        = good + ( length - good ) / 2;
+        const bool    decodes       = bool( TryDecode( family, WithLines( header, 0, middle ).Get() ) );
+        ( decodes ? good : length ) = middle;
+    }
+    return length - 1;
+}
+
+void AddFindings( std::vector< Finding > &findings, const Input &input, const SipsnSchemaFamily &family,
+                  const SipsnFieldPlace &field, const std::vector< BadPart > &parts )
+{
+    std::vector< int64_t >    indexes;
+    std::vector< SipsnPlace > places( parts.size() );
+    for( const BadPart &part : parts ) indexes.push_back( part.place );
+    sipsnFieldPlacesOfChars( input.buffer.Get(), &field, indexes.data(), places.data(), int64_t( parts.size() ) );
+    for( size_t at = 0; at < parts.size(); ++at )
+        findings.push_back( { places[ at ], 0, family.name, parts[ at ].reason, parts[ at ].text } );
+}
+
+// Each of `fields` is a line of the header field.
+void AddBadFields( std::vector< Finding > &findings, const Input &input, const SipsnSchemaFamily &family,
+                   SipsnMessageHeader *header, const std::vector< SipsnFieldPlace > &fields )
+{
+    const size_t before = findings.size();
+    const size_t first  = family.shape == SIPSN_SCHEMA_SHAPE_SINGLE ? fields.size() - 1 : 0; // the last line counts
+    for( size_t at = first; at < fields.size(); ++at )
+        AddFindings( findings, input, family, fields[ at ], FindBadParts( family, header, int64_t( at ) ) );
+    if( findings.size() > before || TryDecode( family, header ) ) return;
+
+    const int64_t           index = FindMisplacedLine( family, header );
+    const Owned< PbString > line{ sipsnMessageHeaderLineAt( header, index ) };
+    const BadPart           part{ 0, Utf8( line ), "does not go with the lines before it" };
+    AddFindings( findings, input, family, fields.at( size_t( index ) ), { part } );
+}
+
+// ---- On a terminal ---------------------------------------------------------------------------------
+
+size_t TerminalColumns()
+{
+    winsize size{};
+    for( const int file : { STDOUT_FILENO, STDERR_FILENO } )
+        if( ioctl( file, TIOCGWINSZ, &size ) == 0 && size.ws_col > 0 ) return std::max< size_t >( size.ws_col, 20 );
+    return 80;
+}
+
+// A row of a line and the marks below it.
+struct Row
+{
+    std::string text = {}, marks = {};
+    size_t      columns = 0;
 };
 
-Line FirstLine( Text text )
+void AppendRow( std::string &excerpt, Row &row )
 {
-    const size_t length = std::min( text.find_first_of( "\r\n" ), text.size() );
-    const size_t end    = text.substr( length, 2 ) == "\r\n" ? 2 : length < text.size() ? 1 : 0;
-    return { length, length + end };
+    constexpr const char *indentation = "    ";
+    excerpt += indentation + row.text + '\n';
+    if( row.marks.find_first_not_of( ' ' ) != row.marks.npos )
+        excerpt += indentation + Paint( Ink::bad, row.marks.substr( 0, row.marks.find_last_not_of( ' ' ) + 1 ) ) + '\n';
+    row = {};
 }
 
-std::string FaultOfRequestLine( Text line )
+// The line that a finding stands in, in rows that fit the terminal, with marks below the bytes that are at fault:
+// "^~~~". Of a line of many rows those around the place.
+std::string Excerpt( std::string_view bytes, size_t offset, size_t length )
 {
-    const size_t first  = line.find( ' ' );
-    const size_t second = first == line.npos ? line.npos : line.find( ' ', first + 1 );
-    if( second == line.npos ) return "no start line: " + Quote( line );
+    const size_t           columns = TerminalColumns() - 4;
+    const size_t           before  = std::min( offset, 3 * columns );
+    const std::string_view around  = bytes.substr( offset - before, before + 3 * columns );
+    const std::string_view line    = LineAround( around, before );
+    const size_t           begin   = size_t( around.data() + before - line.data() );
 
-    const std::string method{ line.substr( 0, first ) };
-    const std::string uri{ line.substr( first + 1, second - first - 1 ) };
-    const std::string version{ line.substr( second + 1 ) };
-    if( TryLine( method + " sip:a@example.com SIP/2.0" ) != Decoded::request ) return "no start line: " + Quote( line );
-    if( TryLine( "OPTIONS " + uri + " SIP/2.0" ) != Decoded::request ) return "request line: no URI: " + Quote( uri );
-    return "request line: no protocol version: " + Quote( version );
-}
-
-std::string FaultOfStartLine( Text line )
-{
-    const size_t      space = std::min( line.find( ' ' ), line.size() );
-    const std::string version{ line.substr( 0, space ) };
-    if( TryLine( version + " 200 OK" ) != Decoded::response ) return FaultOfRequestLine( line );
-
-    const Text        rest = line.substr( std::min( space + 1, line.size() ) );
-    const std::string code{ rest.substr( 0, rest.find( ' ' ) ) };
-    if( TryLine( version + ' ' + code + " OK" ) != Decoded::response )
-        return "status line: no number from 100 to 999: " + Quote( code );
-    return "status line: reason phrase is not UTF-8: " + Quote( rest );
-}
-
-std::string FaultOfField( Text field )
-{
-    const Text line = field.substr( 0, FirstLine( field ).length );
-    const Text name = field.substr( 0, field.find_first_of( ": \t\r\n" ) );
-    const Text rest = field.substr( std::min( field.find_first_not_of( " \t\r\n", name.size() ), field.size() ) );
-    if( !FieldDecodes( std::string( name ) + ':' ) ) return "no header field name: " + Quote( line );
-    if( !rest.starts_with( ':' ) ) return "no colon after the header field name: " + Quote( line );
-    return "header field is not UTF-8: " + Quote( line );
-}
-
-// A field at the start of the text, with the lines that continue it.
-Text TakeField( Text text )
-{
-    size_t end = FirstLine( text ).withEnd;
-    while( end < text.size() && ( text[ end ] == ' ' || text[ end ] == '\t' ) )
-        end += FirstLine( text.substr( end ) ).withEnd;
-    return text.substr( 0, end );
-}
-
-// Calls `visit( offset, field )` with each field from `begin` on, until it returns true.
-template< class Visit > void ForEachField( Text head, size_t begin, Visit visit )
-{
-    for( size_t at = begin; at < head.size(); ) {
-        const Text field = TakeField( head.substr( at ) );
-        if( visit( at, field ) ) return;
-        at += field.size();
+    std::string excerpt;
+    Row         row;
+    for( size_t at = 0; at < line.size(); ) {
+        const Shown shown  = ShowFirst( line.substr( at ) );
+        const bool  marked = at >= begin && at < begin + std::max< size_t >( length, 1 );
+        if( row.columns + shown.columns > columns ) AppendRow( excerpt, row );
+        row.text += shown.text;
+        row.marks += std::string( shown.columns, marked ? '~' : ' ' );
+        if( at == begin && shown.columns > 0 ) row.marks[ row.columns ] = '^';
+        row.columns += shown.columns;
+        at += shown.size;
     }
-}
-
-// The canonical name; none where the field has none that is valid.
-std::string NameOf( Text field )
-{
-    const Owned< PbString > name = TryString( field.substr( 0, field.find_first_of( ": \t\r\n" ) ) );
-    if( !name || !sipsnMessageHeaderNameOk( name.Get() ) ) return {};
-    return Utf8( Owned{ sipsnMessageHeaderNameNormalize( name.Get() ) } );
-}
-
-// The last one, which is the one that counts.
-Fault FaultOfContentLength( Text head, size_t begin, Text reason )
-{
-    Fault fault{ 0, {} };
-    ForEachField( head, begin, [ & ]( size_t at, Text field ) {
-        if( NameOf( field ) == "Content-Length" )
-            fault = { at, Quote( field.substr( 0, FirstLine( field ).length ) ) + std::string( reason ) };
-        return false;
-    } );
-    return fault;
-}
-
-// An empty line within the header fields comes of line ends that are not CR LF: what follows it was meant as the body.
-std::optional< Fault > FindBareEmptyLine( Text head, size_t faultAt )
-{
-    for( size_t at = 0; at < faultAt; ) {
-        const Line line = FirstLine( head.substr( at ) );
-        if( line.length == 0 )
-            return Fault{ at, "line ends are not CR LF, so this empty line does not end the header fields" };
-        at += line.withEnd;
-    }
-    return std::nullopt;
-}
-
-std::optional< Fault > FindFieldFault( Text head, size_t begin )
-{
-    std::optional< Fault > fault;
-    ForEachField( head, begin, [ & ]( size_t at, Text field ) {
-        if( FieldDecodes( field ) ) return false;
-        fault = FindBareEmptyLine( head, at );
-        if( !fault ) fault = Fault{ at, FaultOfField( field ) };
-        return true;
-    } );
-    return fault;
-}
-
-// What stands before the empty line, or everything.
-Text HeadOf( Text bytes, size_t headerEnd )
-{
-    return headerEnd == bytes.npos ? bytes : bytes.substr( 0, headerEnd + 2 );
+    if( begin >= line.size() ) row.marks += '^';
+    AppendRow( excerpt, row );
+    return excerpt;
 }
 
 } // namespace
 
-Fault FindFault( std::string_view bytes, Transport transport )
-{
-    const size_t headerEnd = bytes.find( "\r\n\r\n" );
-    const Text   head      = HeadOf( bytes, headerEnd );
-    const Line   first     = FirstLine( head );
-    const auto   startLine = TryLine( std::string( head.substr( 0, first.length ) ) );
-    if( startLine == Decoded::not_ || startLine == Decoded::header )
-        return { 0, FaultOfStartLine( head.substr( 0, first.length ) ) };
-    if( const auto fault = FindFieldFault( head, first.withEnd ) ) return *fault;
+// ---- Findings --------------------------------------------------------------------------------------
 
-    int64_t contentLength;
-    if( TryHead( head, &contentLength ) == Decoded::not_ )
-        return FaultOfContentLength( head, first.withEnd, " is no length" );
-    if( headerEnd == bytes.npos ) return { 0, "no empty line ends the header fields" };
-    if( contentLength < 0 && transport == Transport::stream ) return { 0, "no Content-Length, which a stream needs" };
-    return FaultOfContentLength(
-        head, first.withEnd, ", but the body has only " + Count( int64_t( bytes.size() - headerEnd - 4 ), "byte" ) );
+Finding FindingOf( const Input &input, const SipsnFault &fault )
+{
+    return { fault.place,
+             fault.length,
+             {},
+             Utf8( Owned{ sipsnFaultToString( &fault ) } ),
+             std::string( LineAround( Bytes( input.buffer.Get() ), size_t( fault.place.offset ) ) ) };
 }
 
-void ForEachHeaderField( std::string_view                                                       bytes,
-                         const std::function< void( const std::string &name, size_t offset ) > &visit )
+std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &found )
 {
-    const Text head = HeadOf( bytes, bytes.find( "\r\n\r\n" ) );
-    ForEachField( head, FirstLine( head ).withEnd, [ & ]( size_t at, Text field ) {
-        visit( NameOf( field ), at );
-        return false;
-    } );
+    std::map< std::string, std::vector< SipsnFieldPlace > > places;
+    for( SipsnFieldPlace field{}; sipsnMessagePlaceNextField( input.buffer.Get(), &found.place, &field ); )
+        places[ Utf8( Owned{ sipsnFieldPlaceName( input.buffer.Get(), &field ) } ) ].push_back( field );
+
+    std::vector< Finding > findings;
+    for( const auto &[ name, fields ] : places ) {
+        const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderCstr( found.message.Get(), name.c_str(), -1 ) };
+        const Owned< PbString >           canonical{ sipsnMessageHeaderName( header.Get() ) };
+        if( const SipsnSchemaFamily *family = sipsnSchemaFamilyByName( canonical.Get() ) )
+            AddBadFields( findings, input, *family, header.Get(), fields );
+    }
+    std::stable_sort( findings.begin(), findings.end(),
+                      []( const Finding &a, const Finding &b ) { return a.place.offset < b.place.offset; } );
+    return findings;
+}
+
+std::string DescribeFinding( const Input &input, const Finding &finding, bool onTerminal )
+{
+    std::string reason = ( finding.header.empty() ? "" : finding.header + ": " ) + finding.reason;
+    if( onTerminal ) reason = Paint( Ink::bad, reason );
+    const std::string described =
+        Place( input, finding.place.line ) + ':' + std::to_string( finding.place.column ) + ": " + reason;
+    if( finding.text.empty() ) return described + '\n';
+    if( !onTerminal ) return described + ": " + Quote( finding.text ) + '\n';
+    return described + '\n' +
+           Excerpt( Bytes( input.buffer.Get() ), size_t( finding.place.offset ), size_t( finding.length ) );
+}
+
+Status ComplainOfFaults( const Input &input, const std::vector< FoundMessage > &messages )
+{
+    Status status = allWell;
+    for( const FoundMessage &found : messages ) {
+        if( found.fault.kind == SIPSN_FAULT_NONE ) continue;
+        ComplainInLines( DescribeFinding( input, FindingOf( input, found.fault ), ErrorsAreOnTerminal() ) );
+        status = someFailed;
+    }
+    return status;
 }
 
 } // namespace tool

@@ -1,33 +1,35 @@
-// Where things stand in the bytes of a message: its header fields, and what makes it no message. The library answers
-// only that it is none.
+// What is wrong in a file, where, and how that is printed.
 #pragma once
 
-#include <cstddef>
-#include <functional>
+#include "input.h"
+
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tool {
 
-struct Fault
+// One thing that is wrong.
+struct Finding
 {
-    size_t      offset; // in the bytes, where the line at fault begins
-    std::string reason; // fit to be printed
+    SipsnPlace  place;
+    int64_t     length; // in bytes; 0 where something is missing
+    std::string header; // the canonical name; empty for what is not about the value of a header field
+    std::string reason;
+    std::string text; // as it was received: the line, or what is malformed in the header field
 };
 
-// On a stream a message must have a Content-Length; in a datagram it ends with it at the latest.
-enum class Transport
-{
-    datagram,
-    stream
-};
+// Of a message that has a fault.
+Finding FindingOf( const Input &input, const SipsnFault &fault );
 
-// For bytes that begin with a message that does not decode.
-Fault FindFault( std::string_view bytes, Transport transport );
+// The header fields of a message that decodes which have a type and do not decode, in the order of the file.
+std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &found );
 
-// Calls `visit( name, offset )` for each header field of a message that decodes, with its canonical name and where its
-// line begins.
-void ForEachHeaderField( std::string_view                                                       bytes,
-                         const std::function< void( const std::string &name, size_t offset ) > &visit );
+// "FILE:LINE:COLUMN: Via: reason" with the text in quotes, fit to be printed; for a terminal the line of the file is
+// shown below instead, with a mark under the place.
+std::string DescribeFinding( const Input &input, const Finding &finding, bool onTerminal );
+
+// Tells of the messages that have a fault, on standard error, and what that means for the status.
+Status ComplainOfFaults( const Input &input, const std::vector< FoundMessage > &messages );
 
 } // namespace tool

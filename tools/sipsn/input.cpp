@@ -1,9 +1,6 @@
 // Files and the messages in them.
 #include "input.h"
 
-#include "fault.h"
-
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -14,100 +11,76 @@ namespace tool {
 namespace {
 
 // Whether all could be read; else errno says why not.
-bool ReadAll( std::FILE *file, std::string &bytes )
+bool ReadAll( std::FILE *file, Owned< PbBuffer > &buffer )
 {
     char block[ 1 << 16 ];
-    while( const size_t count = std::fread( block, 1, sizeof( block ), file ) ) bytes.append( block, count );
+    while( const size_t count = std::fread( block, 1, sizeof( block ), file ) )
+        pbBufferAppendBytes( buffer.Slot(), block, int64_t( count ) );
     return !std::ferror( file );
 }
 
-bool ReadPath( const std::string &path, std::string &bytes )
+bool ReadPath( const std::string &path, Owned< PbBuffer > &buffer )
 {
-    if( path == "-" ) return ReadAll( stdin, bytes );
+    if( path == "-" ) return ReadAll( stdin, buffer );
     const std::unique_ptr< std::FILE, int ( * )( std::FILE * ) > file{ std::fopen( path.c_str(), "rb" ), std::fclose };
-    return file && ReadAll( file.get(), bytes );
+    return file && ReadAll( file.get(), buffer );
 }
 
-// The message that the bytes begin with and how many of them it takes; 0 when there is none.
-size_t TakeMessage( std::string_view bytes, Owned< SipsnMessage > &message )
+// The message behind the one at `before`.
+FoundMessage FindNext( const Input &input, int64_t framing, const SipsnMessagePlace &before )
 {
-    const size_t            headerEnd = bytes.find( "\r\n\r\n" );
-    const size_t            bodyBegin = headerEnd == bytes.npos ? bytes.size() : headerEnd + 4;
-    const Owned< PbBuffer > head = MakeBuffer( headerEnd == bytes.npos ? bytes : bytes.substr( 0, headerEnd + 2 ) );
+    FoundMessage found{ before, {}, {} };
+    found.message = Owned{ sipsnMessageTryDecodeNext( input.buffer.Get(), framing, &found.place, &found.fault ) };
+    return found;
+}
 
-    int64_t                             contentLength;
-    const Owned< SipsnMessageFragment > fragment{ sipsnMessageFragmentTryDecodeHeaders( head.Get(), &contentLength ) };
-    if( !fragment ) return 0;
-    const size_t available  = bytes.size() - bodyBegin;
-    const size_t bodyLength = contentLength < 0 ? available : size_t( contentLength );
-    if( bodyLength > available ) return 0;
-
-    const Owned< PbBuffer > whole = MakeBuffer( bytes.substr( 0, bodyBegin + bodyLength ) );
-    message                       = Owned{ sipsnMessageTryDecode( whole.Get() ) };
-    return message ? bodyBegin + bodyLength : 0;
+FoundMessage FindNext( const Input &input, Framing framing, const SipsnMessagePlace &before )
+{
+    if( framing == Framing::datagram ) return FindNext( input, SIPSN_FRAMING_DATAGRAM, before );
+    FoundMessage found = FindNext( input, SIPSN_FRAMING_STREAM, before );
+    if( found.message || framing == Framing::stream ) return found;
+    FoundMessage datagram = FindNext( input, SIPSN_FRAMING_DATAGRAM, before );
+    if( !datagram.message ) return found;
+    datagram.fault = found.fault;
+    return datagram;
 }
 
 } // namespace
 
 std::optional< Input > TryReadInput( const std::string &path )
 {
-    Input input{ path == "-" ? "standard input" : Escape( path ), {} };
-    if( !ReadPath( path, input.bytes ) ) {
+    Input input{ path == "-" ? "standard input" : Escape( path ), Owned{ pbBufferCreate() } };
+    if( !ReadPath( path, input.buffer ) ) {
         Complain( input.name, std::strerror( errno ) );
         return std::nullopt;
     }
-    if( input.bytes.empty() ) {
+    if( pbBufferLength( input.buffer.Get() ) == 0 ) {
         Complain( input.name, "empty" );
         return std::nullopt;
     }
     return input;
 }
 
-int64_t LineAt( std::string_view bytes, size_t offset )
-{
-    int64_t line = 1;
-    for( size_t at = 0; at < std::min( offset, bytes.size() ); ++at )
-        line += bytes[ at ] == '\n' || ( bytes[ at ] == '\r' && ( at + 1 == bytes.size() || bytes[ at + 1 ] != '\n' ) );
-    return line;
-}
-
-std::vector< FoundMessage > FindMessages( std::string_view bytes )
+std::vector< FoundMessage > FindMessages( const Input &input, Framing framing )
 {
     std::vector< FoundMessage > messages;
-    size_t                      counted = 0;
-    int64_t                     line    = 1;
-    for( size_t at = bytes.find_first_not_of( "\r\n" ); at != bytes.npos; at = bytes.find_first_not_of( "\r\n", at ) ) {
-        line += LineAt( bytes.substr( counted ), at - counted ) - 1;
-        counted = at;
-
-        Owned< SipsnMessage > message;
-        const size_t          length = TakeMessage( bytes.substr( at ), message );
-        messages.push_back( { line, length ? bytes.substr( at, length ) : bytes.substr( at ), std::move( message ) } );
-        if( length == 0 ) {
-            const Fault fault         = FindFault( bytes.substr( at ), Transport::datagram );
-            messages.back().faultLine = line + LineAt( bytes.substr( at ), fault.offset ) - 1;
-            messages.back().reason =
-                ( messages.size() > 1 && fault.offset == 0 ? "after the message before it: " : "" ) + fault.reason;
+    SipsnMessagePlace           place{};
+    for( bool more = true; more; ) {
+        FoundMessage  found = FindNext( input, framing, place );
+        const int64_t kind  = found.fault.kind;
+        if( kind == SIPSN_FAULT_NO_MESSAGE && !messages.empty() ) break;
+        if( kind == SIPSN_FAULT_BODY_LONG || kind == SIPSN_FAULT_BODY_RUNS_OVER ) { // of the message before
+            messages.back().fault = found.fault;
             break;
         }
-        at += length;
+        place = found.place;
+        more  = bool( found.message );
+        messages.push_back( std::move( found ) );
     }
-    if( messages.empty() ) messages.push_back( { 1, bytes, {}, 1, "no message, only line ends" } );
     return messages;
 }
 
 std::string Place( const Input &input, int64_t line ) { return input.name + ':' + std::to_string( line ); }
-
-Status ComplainOfFaults( const Input &input, const std::vector< FoundMessage > &messages )
-{
-    Status status = allWell;
-    for( const FoundMessage &found : messages ) {
-        if( found.message ) continue;
-        Complain( Place( input, found.faultLine ), found.reason );
-        status = someFailed;
-    }
-    return status;
-}
 
 void PrintWire( SipsnMessage *message )
 {

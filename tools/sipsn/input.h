@@ -4,6 +4,7 @@
 #include "output.h"
 #include "text.h"
 
+#include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,47 +15,52 @@ namespace tool {
 // What was read under a name. The name is fit to be printed.
 struct Input
 {
-    std::string name;
-    std::string bytes;
+    std::string       name;
+    Owned< PbBuffer > buffer;
 };
 
 // Reads a file, or standard input for "-"; when that fails or gives no bytes at all, says so and returns nothing.
 std::optional< Input > TryReadInput( const std::string &path );
 
-// Calls `visit` with each input, "-" standing for no path at all; the worst status of all.
+// Calls `visit` with each input, "-" standing for no path at all; the worst status of all. What goes wrong with one
+// input does not keep the others from being looked at.
 template< class Visit > Status ForEachInput( std::vector< std::string > paths, Visit visit )
 {
     Status status = allWell;
     if( paths.empty() ) paths.emplace_back( "-" );
-    for( const std::string &path : paths ) {
-        const std::optional< Input > input = TryReadInput( path );
-        Worsen( status, input ? visit( *input ) : cannotRun );
-    }
+    for( const std::string &path : paths ) try {
+            const std::optional< Input > input = TryReadInput( path );
+            Worsen( status, input ? visit( *input ) : cannotRun );
+            FlushOutput();
+        } catch( const std::exception &error ) {
+            Complain( Escape( path ), error.what() );
+            status = cannotRun;
+        }
     return status;
 }
 
-// The number, from 1, of the line that the byte at `offset` stands in.
-int64_t LineAt( std::string_view bytes, size_t offset );
-
-// A message in a file, or why there is none at its place.
+// A message in a file, or why there is none at its place. A message may have a fault as well: when what follows it
+// shows that its Content-Length is wrong, or when a stream could not carry it.
 struct FoundMessage
 {
-    int64_t               line;    // where it begins
-    std::string_view      bytes;   // its own; all the rest for one that is malformed
-    Owned< SipsnMessage > message; // or null, and then:
-    int64_t               faultLine = 0;
-    std::string           reason    = {};
+    SipsnMessagePlace     place;
+    Owned< SipsnMessage > message;
+    SipsnFault            fault; // SIPSN_FAULT_NONE when there is none
 };
 
-// The messages of a file: one, or several one after another with CR and LF between them at will. A message without
-// Content-Length reaches to the end of the file, as one in a datagram does. What is malformed is the last.
-std::vector< FoundMessage > FindMessages( std::string_view bytes );
+// How messages are told apart; see sipsn_message_reader.h.
+enum class Framing
+{
+    datagram,
+    stream,
+    either // as on a stream where that is possible; else as in a datagram, and the fault says what a stream lacks
+};
+
+// The messages of a file one after another, CR LF pairs between them. What is malformed is the last.
+std::vector< FoundMessage > FindMessages( const Input &input, Framing framing );
 
 // "FILE:LINE".
 std::string Place( const Input &input, int64_t line );
-
-// "FILE: reason" on standard error, once for each message that is malformed, and what that means for the status.
-Status ComplainOfFaults( const Input &input, const std::vector< FoundMessage > &messages );
 
 // Writes the message in its canonical wire form; for a terminal with its line ends, and control characters escaped.
 void PrintWire( SipsnMessage *message );

@@ -14,6 +14,8 @@ namespace tool {
 
 namespace {
 
+int outputError = 0; // why something that was printed could not be written
+
 bool TerminalWantsColours( int file )
 {
     const char *noColour = std::getenv( "NO_COLOR" );
@@ -63,21 +65,37 @@ void PrintJson( const Json &json )
     PrintLine( EscapeJson( json.dump( 2, ' ', false, Json::error_handler_t::replace ) ) );
 }
 
+void PrintJsonLine( const Json &json )
+{
+    PrintLine( EscapeJson( json.dump( -1, ' ', false, Json::error_handler_t::replace ) ) );
+}
+
 void Complain( std::string_view place, std::string_view reason )
 {
-    std::fflush( stdout );
-    const std::string line = std::string( place ) + ": " + std::string( reason ) + '\n';
-    std::fwrite( line.data(), 1, line.size(), stderr );
+    ComplainInLines( std::string( place ) + ": " + std::string( reason ) + '\n' );
+}
+
+void ComplainInLines( std::string_view lines )
+{
+    FlushOutput();
+    std::fwrite( lines.data(), 1, lines.size(), stderr );
+}
+
+void FlushOutput()
+{
+    if( std::fflush( stdout ) != 0 && outputError == 0 ) outputError = errno;
 }
 
 bool FinishOutput()
 {
-    if( std::fflush( stdout ) == 0 && !std::ferror( stdout ) ) return true;
-    Complain( "standard output", std::strerror( errno ) );
+    FlushOutput();
+    if( outputError == 0 && !std::ferror( stdout ) ) return true;
+    Complain( "standard output", std::strerror( outputError ) );
     return false;
 }
 
 bool OutputIsTerminal() { return isatty( STDOUT_FILENO ); }
+bool ErrorsAreOnTerminal() { return isatty( STDERR_FILENO ); }
 
 std::string Paint( Ink ink, std::string_view text )
 {

@@ -26,14 +26,20 @@ inline void Worsen( Status &status, Status by ) { status = status < by ? by : st
 void Print( std::string_view text );
 void PrintLine( std::string_view text );
 void PrintJson( const Json &json );
+void PrintJsonLine( const Json &json );
 
-// "FILE:LINE: reason" on standard error.
+// "FILE:LINE: reason" on standard error; or the lines as they are.
 void Complain( std::string_view place, std::string_view reason );
+void ComplainInLines( std::string_view lines );
+
+// Writes out what was printed so far.
+void FlushOutput();
 
 // Whether everything that was printed has been written; else says so.
 bool FinishOutput();
 
 bool OutputIsTerminal();
+bool ErrorsAreOnTerminal();
 
 // Colours for a terminal that wants them (NO_COLOR and TERM are heeded); anywhere else the text as it is.
 enum class Ink

@@ -4,7 +4,9 @@
 #include "pb/pb_text.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cstdio>
+#include <cwchar>
 #include <iterator>
 
 namespace tool {
@@ -139,14 +141,21 @@ std::string EscapeJson( std::string_view utf8 )
     } );
 }
 
-std::string Quote( std::string_view bytes )
+Shown ShowFirst( std::string_view utf8 )
 {
-    constexpr size_t most = 60;
-    if( bytes.size() <= most ) return '"' + Escape( bytes ) + '"';
-    size_t end = most;
-    while( end > most - 3 && ( PbByte( bytes[ end ] ) & 0xC0 ) == 0x80 ) --end; // not within a character
-    return '"' + Escape( bytes.substr( 0, end ) ) + "...\"";
+    static const locale_t unicode = newlocale( LC_CTYPE_MASK, "C.UTF-8", nullptr );
+
+    const Character first = FirstCharacter( utf8 );
+    Shown           shown{ Escape( utf8.substr( 0, first.size ) ), first.size, 0 };
+    shown.columns = shown.text.size();
+    if( shown.text != utf8.substr( 0, first.size ) || first.ch < 0x80 || !unicode ) return shown;
+    const locale_t before = uselocale( unicode );
+    shown.columns         = size_t( std::max( wcwidth( wchar_t( first.ch ) ), 0 ) );
+    uselocale( before );
+    return shown;
 }
+
+std::string Quote( std::string_view bytes ) { return '"' + Escape( bytes ) + '"'; }
 
 std::string Count( int64_t number, std::string_view noun )
 {

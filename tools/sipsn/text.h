@@ -30,7 +30,17 @@ std::string EscapeLines( std::string_view text );
 // The same with escapes that JSON knows, for JSON text, in which such characters stand within strings alone.
 std::string EscapeJson( std::string_view utf8 );
 
-// An escaped beginning of the text in quotes, for a message about it.
+// The first character of a text that is not empty: its form after Escape, the bytes it takes in the text, and the
+// columns it takes on a terminal.
+struct Shown
+{
+    std::string text;
+    size_t      size;
+    size_t      columns;
+};
+Shown ShowFirst( std::string_view utf8 );
+
+// The text escaped and in quotes, for a message about it.
 std::string Quote( std::string_view bytes );
 
 // "1 byte", "2 bytes".
