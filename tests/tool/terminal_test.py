@@ -7,6 +7,7 @@ import pty
 import re
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TOOL = sys.argv[1]
@@ -54,3 +55,18 @@ for command, status in commands:
 
 encoded = on_terminal("encode", hostile).decode()
 assert 'From: "\\x1B[2J\\x1B[31mBank\\x07" <sip:mallory@example.org>;tag=h1\n' in encoded, "encode shows them instead"
+
+# Marks stand below what is at fault, whatever its characters take on the screen, and long lines are broken in time.
+with tempfile.NamedTemporaryFile() as file:
+    file.write("SIP/2.0 200 OK\r\nl: 0\r\nHistory-Info: \"日本 e\u0301\t\" <sip:a@b>;index=1, <sip:c@d>\r\n".encode())
+    file.write(f"From: <sip:{'a' * 80}>;tag=x,\r\n\r\n".encode())
+    file.flush()
+    shown = on_terminal("check", file.name, status=1, NO_COLOR="1").decode().replace(file.name, "FILE")
+    assert shown == f"""FILE:3:52: History-Info: expected an index after the URI
+    History-Info: "日本 e\u0301\\t" <sip:a@b>;index=1, <sip:c@d>
+{"^":>58}
+FILE:4:99: From: expected the end or ";" after the tag
+    From: <sip:{"a" * 65}
+    {"a" * 15}>;tag=x,
+{"^":>27}
+""", shown

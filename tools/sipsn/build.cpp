@@ -409,7 +409,8 @@ Owned< PbBuffer > BuildBody( const Part &part )
 Owned< SipsnMessage > BuildMessage( const std::string &path, const Json &json )
 {
     const Part  part{ path, json };
-    const Parts members = MembersOf( part, { "file", "line", "request", "response", "headers", "body", "error" } );
+    const Parts members =
+        MembersOf( part, { "file", "line", "column", "request", "response", "headers", "body", "error", "text" } );
     if( const Part *error = Find( members, "error" ) ) error->Refuse( "there is no message here" );
     const Part *request = Find( members, "request" ), *response = Find( members, "response" );
     if( request && response ) response->Refuse( "does not go with request" );

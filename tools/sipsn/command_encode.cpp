@@ -59,10 +59,11 @@ std::optional< size_t > ParseAll( const std::string &bytes, std::vector< Json > 
 
 Status EncodeJson( const Input &input )
 {
+    const std::string   bytes{ Bytes( input.buffer.Get() ) };
     std::vector< Json > values;
-    if( const auto bad = ParseAll( input.bytes, values ) ) {
-        const auto end = input.bytes.begin() + std::ptrdiff_t( std::min( *bad, input.bytes.size() ) );
-        Complain( Place( input, 1 + std::count( input.bytes.begin(), end, '\n' ) ), "not JSON" );
+    if( const auto bad = ParseAll( bytes, values ) ) {
+        const auto end = bytes.begin() + std::ptrdiff_t( std::min( *bad, bytes.size() ) );
+        Complain( Place( input, 1 + std::count( bytes.begin(), end, '\n' ) ), "not JSON" );
         return someFailed;
     }
     std::vector< const Json * > objects;

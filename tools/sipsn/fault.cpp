@@ -214,7 +214,7 @@ std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &fo
 
 std::string DescribeFinding( const Input &input, const Finding &finding, bool onTerminal )
 {
-    std::string reason = ( finding.header.empty() ? "" : finding.header + ": " ) + finding.reason;
+    std::string reason = Escape( ( finding.header.empty() ? "" : finding.header + ": " ) + finding.reason );
     if( onTerminal ) reason = Paint( Ink::bad, reason );
     const std::string described =
         Place( input, finding.place.line ) + ':' + std::to_string( finding.place.column ) + ": " + reason;

@@ -97,11 +97,13 @@ Json MessageSchema()
 {
     Json schema = ObjectOf( { { "file", { { "type", "string" } } },
                               { "line", { { "type", "integer" } } },
+                              { "column", { { "type", "integer" } } },
                               { "request", Ref( "request" ) },
                               { "response", Ref( "response" ) },
                               { "headers", Ref( "headers" ) },
                               { "body", Ref( "body" ) },
-                              { "error", { { "type", "string" } } } } );
+                              { "error", { { "type", "string" } } },
+                              { "text", { { "type", "string" } } } } );
 
     schema[ "oneOf" ] = Json::array();
     for( const char *key : { "request", "response", "error" } )
