@@ -38,7 +38,11 @@ TEST( SipsnGenericParam, ChangesItsOwnCopyOnly )
     pb::Ref copy{ sipsnGenericParamRetain( param.Get() ) };
     sipsnGenericParamNormalizeValue( copy.Slot() );
     EXPECT_EQ( Take( sipsnGenericParamToString( copy.Get() ) ), "x=abc" );
+    sipsnGenericParamSetValue( copy.Slot(), SIPSN_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING, Str( "v" ).Get() );
+    EXPECT_EQ( Take( sipsnGenericParamToString( copy.Get() ) ), "x=\"v\"" );
     sipsnGenericParamDelValue( copy.Slot() );
+    EXPECT_FALSE( sipsnGenericParamHasValue( copy.Get() ) );
+    EXPECT_TRUE( sipsnGenericParamHasValue( param.Get() ) );
     sipsnGenericParamNormalizeValue( copy.Slot() );
     sipsnGenericParamSetNameWcstr( copy.Slot(), L"Y", -1 );
     EXPECT_EQ( Take( sipsnGenericParamToString( copy.Get() ) ), "y" );
@@ -59,6 +63,7 @@ TEST( SipsnGenericParams, FindsNamesInAnyCase )
     EXPECT_EQ( sipsnGenericParamsParamCstr( params.Get(), "absent", -1 ), nullptr );
     EXPECT_EQ( sipsnGenericParamsParamValueNormalizedAt( params.Get(), 0 ), nullptr );
     EXPECT_EQ( sipsnGenericParamsParamValueTypeAt( params.Get(), 1 ), 0 );
+    EXPECT_EQ( Take( sipsnGenericParamsParamValueNonNormalizedAt( params.Get(), 1 ) ), "A" );
     EXPECT_DEATH( sipsnGenericParamsHasParamCstr( params.Get(), "a b", -1 ), "\"sipsnTokenOk\\( token \\)\"" );
     EXPECT_DEATH( sipsnGenericParamsParamAt( params.Get(), 2 ), "index" );
 }

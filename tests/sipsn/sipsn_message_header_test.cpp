@@ -83,13 +83,19 @@ TEST( SipsnMessageHeader, EqualsByNameInWhateverForm )
 
 TEST( SipsnMessageHeader, ChangesLinesOfItsOwnCopyOnly )
 {
-    pb::Ref header = Header( "Q", { "a", "b" } );
-    pb::Ref copy{ sipsnMessageHeaderRetain( header.Get() ) };
-    sipsnMessageHeaderSetLineAtFormatCstr( copy.Slot(), 1, "%s-%i", -1, Str( "c" ).Get(), int64_t{ 7 } );
+    pb::Ref    header = Header( "Q", { "a", "b" } );
+    pb::Ref    copy{ sipsnMessageHeaderRetain( header.Get() ) };
+    const auto format = Str( "%s-%i" ), text = Str( "c" );
+    sipsnMessageHeaderSetLineAtFormat( copy.Slot(), 1, format.Get(), text.Get(), int64_t{ 7 } );
+    sipsnMessageHeaderAppendLineFormat( copy.Slot(), format.Get(), text.Get(), int64_t{ 8 } );
+    sipsnMessageHeaderAppendLineFormatCstr( copy.Slot(), "%ix", 2, int64_t{ 9 } );
     sipsnMessageHeaderAppendLineFormatWcstr( copy.Slot(), L"%^!16i", -1, int64_t{ 250 } );
+    sipsnMessageHeaderSetLineAtFormatCstr( copy.Slot(), 2, "%s", -1, text.Get() );
+    sipsnMessageHeaderSetLineAtFormatWcstr( copy.Slot(), 3, L"%ix", 2, int64_t{ 5 } );
     sipsnMessageHeaderDelLineAt( copy.Slot(), 0 );
     sipsnMessageHeaderSetNameCstr( copy.Slot(), "s", -1 );
-    EXPECT_EQ( Take( sipsnMessageHeaderToString( copy.Get() ) ), "Subject: c-7\r\nSubject: FA" );
+    EXPECT_EQ( Take( sipsnMessageHeaderToString( copy.Get() ) ),
+               "Subject: c-7\r\nSubject: c\r\nSubject: 5\r\nSubject: FA" );
     EXPECT_EQ( Take( sipsnMessageHeaderToString( header.Get() ) ), "Q: a\r\nQ: b" );
     EXPECT_EQ( Take( sipsnMessageHeaderLastLine( header.Get() ) ), "b" );
     EXPECT_EQ( sipsnMessageHeaderLastLine( Header( "X", {} ).Get() ), nullptr );

@@ -130,6 +130,14 @@ TEST( SipsnMessage, SharesItsFragmentUntilOneOfThemChanges )
     EXPECT_EQ( copy.Get(), alone ) << "an unshared message is changed in place";
 }
 
+TEST( SipsnMessage, IsCreatedAndHasHeaders )
+{
+    pb::Ref msg{ sipsnMessageCreateResponse( Sip20().Get(), 486 ) };
+    EXPECT_EQ( Take( sipsnMessageResponseReasonPhrase( msg.Get() ) ), "Busy here" );
+    sipsnMessageSetHeader( msg.Slot(), pb::Ref{ sipsnMessageHeaderCreateCstr( "Q", -1 ) }.Get() );
+    EXPECT_EQ( pbVectorLength( pb::Ref{ sipsnMessageHeadersVector( msg.Get() ) }.Get() ), 1 );
+}
+
 TEST( SipsnMessageDeathTest, SettersWantTheRightKindAndValidValues )
 {
     pb::Ref empty{ sipsnMessageFragmentCreate() };

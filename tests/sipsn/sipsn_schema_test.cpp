@@ -45,6 +45,7 @@ TEST( SipsnSchema, TellsWhyATextIsNotAValue )
     for( const auto &[ name, example ] : examples ) {
         const SipsnSchemaType *type = sipsnSchemaTypeByName( name );
         ASSERT_TRUE( type ) << name;
+        EXPECT_STREQ( sipsnSchemaExample( type ), example ) << name;
         if( !example || !sipsnSchemaHasText( type ) ) continue;
         SCOPED_TRACE( name );
         const ObjPtr value{ sipsnSchemaTryDecode( type, Str( example ).Get() ) };

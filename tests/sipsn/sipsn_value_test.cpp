@@ -25,6 +25,8 @@ TEST( SipsnAcceptEncoding, ADecodedStarIsACodingAndACreatedOneIsNot )
     EXPECT_FALSE( sipsnAcceptEncodingHasContentCoding( created.Get() ) );
     EXPECT_EQ( Take( sipsnAcceptEncodingToString( created.Get() ) ), "*" );
     EXPECT_LT( sipsnAcceptEncodingCompare( created.Get(), decoded.Get() ), 0 );
+    pb::Ref gzip{ sipsnAcceptEncodingCreateWithContentCoding( Str( "GZip" ).Get() ) };
+    EXPECT_EQ( Take( sipsnAcceptEncodingToString( gzip.Get() ) ), "gzip" );
 }
 
 TEST( SipsnDiversion, WritesContentsAsTheyAreStored )
@@ -35,6 +37,8 @@ TEST( SipsnDiversion, WritesContentsAsTheyAreStored )
     EXPECT_TRUE( sipsnDiversionHasPrivacy( diversion.Get() ) );
     EXPECT_EQ( Take( sipsnDiversionToString( diversion.Get() ) ),
                "<sip:h>;reason=out \"of\" office;privacy=;screen=a;b" );
+    pb::Ref named{ sipsnDiversionCreateWithDisplayName( Str( "sip:h" ).Get(), Str( "A" ).Get() ) };
+    EXPECT_EQ( Take( sipsnDiversionToString( named.Get() ) ), "\"A\" <sip:h>" );
 }
 
 TEST( SipsnUuiValue, DataThatIsNotATokenIsLeftOut )
