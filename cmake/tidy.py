@@ -2,7 +2,8 @@
 
     tidy.py BUILD [--deep]    the folder whose compile_commands.json says how they are compiled
 
-The analyzer looks at functions by themselves; with --deep it follows calls too, which takes about ten times as long.
+The analyzer looks at functions by themselves; with --deep it follows calls too, which takes several times as
+long.
 
 A file that has passed is not looked at again until it changes, or a header that it includes, or the checks: build/tidy has
 an empty file for each that passed, named by a hash of all that counts.
