@@ -384,7 +384,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
 
 // ---- The standard functions ------------------------------------------------------------------------
 
-// Defines what PB_DECLARE_TYPE declares, plus the sort record and its hooks. `self` is the name that the type's
+// Defines the functions of a type (pb_types.h), plus the sort record and its hooks. `self` is the name that the type's
 // conditions use for an object ("reason"), `pair` the one that comparison puts "A" and "B" to ("reasonA"); `toText`
 // makes an object's wire text, or is pb::sortNameAsText. PB_DEFINE_TYPE( SipsnReason, sipsnReason,
 // sipsn___sort_SIPSN_REASON, "SIPSN_REASON", sipsn___module, reason, reason, sipsn___ReasonEncode ) defines
@@ -399,7 +399,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
         return pb::NewFrom( source );                                                                                  \
     }
 
-// The same for what PB_DECLARE_OBJECT declares.
+// The same for an object that is not copied: without CreateFrom.
 #define PB_DEFINE_OBJECT( Type, prefix, sort_, sortName, module_, self, pair, toText )                                 \
     static_assert( offsetof( Type, obj ) == 0, "the object header comes first" );                                      \
     static_assert( pb::IsTableWhole< Type >(), #Type ": a member is not in Members" );                                 \

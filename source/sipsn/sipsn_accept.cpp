@@ -6,7 +6,7 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
-using sipsn::BasicCursor, sipsn::Span, sipsn::TextWriter;
+using sipsn::BasicCursor, sipsn::TextWriter;
 
 namespace sipsn::rule {
 

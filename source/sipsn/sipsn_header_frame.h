@@ -375,8 +375,8 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 
 // ---- The functions of a list -----------------------------------------------------------------------
 
-// Defines what SIPSN_DECLARE_LIST declares; the list is the member `items`, and `stored( value )` gives the text that
-// it keeps for a value, a new reference. SIPSN_DEFINE_LIST( Via, Vias, Via, SipsnVia, via, sipsn___ViaEncode )
+// Defines the functions of a list (sipsn_header.h), which is the member `items`, and `stored( value )` gives the text
+// that it keeps for a value, a new reference. SIPSN_DEFINE_LIST( Via, Vias, Via, SipsnVia, via, sipsn___ViaEncode )
 // defines
 //
 //     sipsnHeaderViaViasLength, ...AppendVia, ...PrependVia, ...InsertVia, ...SetViaAt, ...DelViaAt
@@ -429,8 +429,9 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 
 // ---- The functions of a token set ------------------------------------------------------------------
 
-// Defines what SIPSN_DECLARE_SET declares; the set is the member `items`, and `key( token )` asserts the token and
-// gives the form that the set keeps, a new reference. SIPSN_DEFINE_SET( Allow, Methods, Method, method, Key ) defines
+// Defines the functions of a set (sipsn_header.h), which is the member `items`, and `key( token )` asserts the token
+// and gives the form that the set keeps, a new reference. SIPSN_DEFINE_SET( Allow, Methods, Method, method, Key )
+// defines
 //
 //     sipsnHeaderAllowMethodsLength, ...MethodAt, ...MethodsVector, ...SetMethodsVector, ...HasMethod, ...SetMethod,
 //     ...DelMethod, ...ClearMethods

@@ -12,8 +12,7 @@
 
 namespace {
 
-using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::Span, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted,
-    sipsn::Watch;
+using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted, sipsn::Watch;
 
 } // namespace
 
