@@ -106,6 +106,7 @@ void AddFindings( std::vector< Finding > &findings, const Input &input, const Si
 {
     std::vector< int64_t >    indexes;
     std::vector< SipsnPlace > places( parts.size() );
+    indexes.reserve( parts.size() );
     for( const BadPart &part : parts ) indexes.push_back( part.place );
     sipsnFieldPlacesOfChars( input.buffer.Get(), &field, indexes.data(), places.data(), int64_t( parts.size() ) );
     for( size_t at = 0; at < parts.size(); ++at )
