@@ -5,6 +5,9 @@
 #include "sipsn/sipsn_skip_internal.h"
 #include "sipsn/sipsn_value_internal.h"
 
+#define VALUE( Type, ... ) SIPSN_DECLARE_TEXT( Type )
+#include "sipsn/sipsn_values.inc"
+
 namespace {
 
 template< auto tryDecode, auto encode > constexpr ValueSample SampleOf( const char *type, const char *text, Scan *scan )

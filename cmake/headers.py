@@ -64,14 +64,16 @@ def own_declarations(component):
 
 @functools.cache
 def exports(component):
-    """The names that the component's headers declare with default visibility, and the sort records of its types: the
-    type of `sipsnReasonSort( void )` has the record sipsn___sort_SIPSN_REASON."""
+    """The names that the component's headers declare with default visibility, the sort records of its types (that of
+    `sipsnReasonSort( void )` has the record sipsn___sort_SIPSN_REASON), and what the types' own files declare."""
     text = own_declarations(component)
     names = set()
     for declaration in EXPORT.findall(text):
         names.add(DECLARED_NAME.search(ATTRIBUTE.sub("", declaration).strip()).group(1))
     for type_name in SORT_FUNCTION.findall(text):
         names.add(f"{component}___sort_" + snake(type_name).upper())
+    if component == "sipsn":
+        names |= declared_by_files()
     written = set().union(*map(words, public_headers(component)))
     for name in sorted(names):
         # "spisn" begins one name of sipsn that has been misspelt since it was first exported.
@@ -152,6 +154,13 @@ def types(kind):
     found = [read_type(header, word) for header in public_headers("sipsn") for word in ("TYPE", "OBJECT", "HEADER")
              if word in directives(header)]
     return [entry for entry in found if entry.kind == kind]
+
+
+def declared_by_files():
+    """What SIPSN_DECLARE_TEXT of a value and SIPSN_DECLARE_NAME of a header family declare."""
+    return {f"sipsn___{name}" for value in types("VALUE") for name in (f"{value.short}TryDecode", f"{value.short}Encode")
+            } | {f"sipsn___{name}" for family in types("HEADER")
+                 for name in (f"Pbs{family.short}", f"Header{family.short}Startup", f"Header{family.short}Shutdown")}
 
 
 @functools.cache

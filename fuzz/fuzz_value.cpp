@@ -8,6 +8,9 @@
 
 #include <iterator>
 
+#define VALUE( Type, ... ) SIPSN_DECLARE_TEXT( Type )
+#include "sipsn/sipsn_values.inc"
+
 namespace {
 
 // ---- What is not meant to be read back -------------------------------------------------------------

@@ -6,6 +6,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( Accept )
+
 using sipsn::BasicCursor, sipsn::TextWriter;
 
 namespace sipsn::rule {

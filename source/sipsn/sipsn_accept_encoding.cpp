@@ -4,6 +4,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( AcceptEncoding )
+
 struct SipsnAcceptEncoding
 {
     PbObj               obj;

@@ -5,6 +5,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( CallInfo )
+
 namespace sipsn::rule {
 
 static constexpr TextRule purpose{ .words      = "a purpose",

@@ -5,6 +5,8 @@
 #include "sipsn_sip_instance.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( Contact )
+
 namespace sipsn::rule {
 
 static constexpr TextRule sipInstance{

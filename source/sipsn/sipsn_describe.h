@@ -222,11 +222,14 @@ template< class Form > bool WatchForm( const Form &form, Span text, Watch &watch
     return bool( pb::Ref{ form.TryDecode( in ) } );
 }
 
-// The records, each in the file of its type.
-
-#define TYPE( Type, ... ) extern const TypeRecord schema##Type;
-#include "sipsn_types.inc"
-#define FAMILY( Type, ... ) extern const ShapeRecord shapeOfHeader##Type;
-#include "sipsn_families.inc"
-
 } // namespace sipsn
+
+// A type's record stands in the type's file, that of a header family's shape beside it.
+#define SIPSN_DECLARE_RECORD( Type )                                                                                   \
+    namespace sipsn {                                                                                                  \
+    extern const TypeRecord schema##Type;                                                                              \
+    }
+#define SIPSN_DECLARE_SHAPE( Family )                                                                                  \
+    namespace sipsn {                                                                                                  \
+    extern const ShapeRecord shapeOfHeader##Family;                                                                    \
+    }

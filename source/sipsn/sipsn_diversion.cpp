@@ -9,6 +9,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( Diversion )
+
 namespace sipsn::rule {
 
 // The content of a token or a quoted string, as its member stores it.

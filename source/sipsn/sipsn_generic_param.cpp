@@ -8,6 +8,8 @@
 #include "sipsn_token_internal.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( GenericParam )
+
 using sipsn::BasicCursor, sipsn::Span, sipsn::StringFrom, sipsn::TextWriter;
 
 struct SipsnGenericParam

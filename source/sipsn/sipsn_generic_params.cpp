@@ -4,6 +4,8 @@
 #include "sipsn_skip_internal.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( GenericParams )
+
 using sipsn::BasicCursor, sipsn::StringFrom, sipsn::TextWriter;
 
 struct SipsnGenericParams

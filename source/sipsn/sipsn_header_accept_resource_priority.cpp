@@ -2,7 +2,6 @@
 #include "sipsn_header_accept_resource_priority.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 struct SipsnHeaderAcceptResourcePriority
 {

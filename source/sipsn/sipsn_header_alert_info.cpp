@@ -2,7 +2,8 @@
 #include "sipsn_header_alert_info.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
+
+SIPSN_DECLARE_TEXT( AlertInfo )
 
 struct SipsnHeaderAlertInfo
 {

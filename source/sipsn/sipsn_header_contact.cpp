@@ -2,7 +2,8 @@
 #include "sipsn_header_contact.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
+
+SIPSN_DECLARE_TEXT( Contact )
 
 struct SipsnHeaderContact
 {

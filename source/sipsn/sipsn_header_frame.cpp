@@ -1,8 +1,6 @@
 // The header frame: the parts that are not templates.
 #include "sipsn_header_frame.h"
 
-#include "sipsn_header_internal.h"
-
 namespace sipsn {
 
 PbString *LinesToString( SipsnMessageHeader *owned )

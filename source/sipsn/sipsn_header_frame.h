@@ -15,6 +15,7 @@
 #pragma once
 
 #include "sipsn_header.h"
+#include "sipsn_header_internal.h"
 #include "sipsn_header_names.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_rules.h"
@@ -300,6 +301,7 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 
 // The constant alone, for a family that keeps more.
 #define SIPSN_DEFINE_NAME_CONSTANT( Family, text )                                                                     \
+    SIPSN_DECLARE_NAME( Family )                                                                                       \
     PbString                *sipsn___Pbs##Family;                                                                      \
     static constexpr int64_t nameNumber = sipsn::HeaderNumber( text );                                                 \
     static_assert( nameNumber >= 0, "not a known name" );                                                              \
@@ -323,6 +325,8 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     }                                                                                                                  \
     SIPSN_DEFINE_TYPE( SipsnHeader##Family, sipsnHeader##Family, SORT, hdr, hdr, LinesText )                           \
                                                                                                                        \
+    SIPSN_DECLARE_RECORD( Header##Family )                                                                             \
+    SIPSN_DECLARE_SHAPE( Family )                                                                                      \
     constexpr sipsn::TypeRecord sipsn::schemaHeader##Family =                                                          \
         sipsn::MakeTypeRecord< SipsnHeader##Family >( "SipsnHeader" #Family );                                         \
     constexpr sipsn::ShapeRecord sipsn::shapeOfHeader##Family =                                                        \

@@ -2,7 +2,6 @@
 #include "sipsn_header_in_reply_to.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 struct SipsnHeaderInReplyTo
 {

@@ -2,7 +2,6 @@
 #include "sipsn_header_min_expires.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 struct SipsnHeaderMinExpires
 {

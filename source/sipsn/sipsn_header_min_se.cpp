@@ -2,7 +2,6 @@
 #include "sipsn_header_min_se.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 struct SipsnHeaderMinSe
 {

@@ -2,7 +2,6 @@
 #include "sipsn_header_p_called_party_id.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 struct SipsnHeaderPCalledPartyId
 {

@@ -2,7 +2,8 @@
 #include "sipsn_header_p_preferred_identity.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
+
+SIPSN_DECLARE_TEXT( IdentityValue )
 
 struct SipsnHeaderPPreferredIdentity
 {

@@ -2,7 +2,6 @@
 #include "sipsn_header_proxy_require.h"
 
 #include "sipsn_header_frame.h"
-#include "sipsn_header_internal.h"
 
 using sipsn::StringFrom;
 

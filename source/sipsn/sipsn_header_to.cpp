@@ -2,7 +2,6 @@
 #include "sipsn_header_to.h"
 
 #include "sipsn_dialog_party.h"
-#include "sipsn_header_internal.h"
 
 SIPSN_DEFINE_NAME( To, "To" )
 

@@ -4,6 +4,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( IdentityValue )
+
 struct SipsnIdentityValue
 {
     PbObj     obj;

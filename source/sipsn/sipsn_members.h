@@ -146,9 +146,13 @@ template< class T > struct TextRow
         BasicCursor< Link > ahead = in;
         if( param.empty() || !ahead.Keyword( param ) || !ahead.Take( sipsn___SkipEqual ) ) return false;
         if( quoted && !ahead.Take( PbChar{ '"' } ) ) return false;
-        pb::Ref taken{ TryTake( ahead, *rule ) };
-        if( !taken || ( quoted && !ahead.Take( PbChar{ '"' } ) ) ) return false;
-        pb::Set( value.*member, taken.Detach() );
+        PbString *taken = TryTake( ahead, *rule );
+        if( !taken ) return false;
+        if( quoted && !ahead.Take( PbChar{ '"' } ) ) {
+            pb::Release( taken );
+            return false;
+        }
+        pb::Set( value.*member, taken );
         in = ahead;
         return true;
     }

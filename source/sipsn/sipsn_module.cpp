@@ -9,6 +9,9 @@
 
 #include "product.h"
 
+#define FAMILY( Type, ... ) SIPSN_DECLARE_NAME( Type )
+#include "sipsn_families.inc"
+
 static void Startup()
 {
 #define FAMILY( Type, ... ) sipsn___Header##Type##Startup();

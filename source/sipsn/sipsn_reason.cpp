@@ -7,6 +7,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( Reason )
+
 namespace sipsn::rule {
 
 static constexpr TextRule reasonProtocol{

@@ -10,6 +10,11 @@
 
 #include <cstring>
 
+#define TYPE( Type, ... ) SIPSN_DECLARE_RECORD( Type )
+#include "sipsn_types.inc"
+#define FAMILY( Type, ... ) SIPSN_DECLARE_SHAPE( Type )
+#include "sipsn_families.inc"
+
 namespace {
 
 using sipsn::MemberRecord, sipsn::ShapeRecord, sipsn::TextWriter, sipsn::TypeRecord, sipsn::Wanted, sipsn::Watch;

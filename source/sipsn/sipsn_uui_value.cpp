@@ -5,6 +5,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( UuiValue )
+
 namespace sipsn::rule {
 
 static bool IsUuiData( PbString *uuiData ) { return sipsnTokenOk( uuiData ) || sipsnQuotableStringOk( uuiData ); }

@@ -7,15 +7,7 @@
 #include "sipsn_describe.h"
 #include "sipsn_internal.h"
 
-#define VALUE( Type, ... ) struct Sipsn##Type;
-#include "sipsn_values.inc"
-
 PB_BEGIN_DECLS
-
-#define VALUE( Type, ... )                                                                                             \
-    PB_API Sipsn##Type *sipsn___##Type##TryDecode( const PbChar *chs, int64_t length );                                \
-    PB_API PbString    *sipsn___##Type##Encode( Sipsn##Type *value );
-#include "sipsn_values.inc"
 
 // What these files keep while the module is started.
 PB_API void sipsn___UuiValueStartup( void );
@@ -25,7 +17,16 @@ PB_API void sipsn___ViaShutdown( void );
 
 PB_END_DECLS
 
-// Defines the text form of a value and its record in the schema, behind SIPSN_DEFINE_TYPE. `self` is the name that the
+// Declares the text form of a value and its record in the schema, for its own file and for those that keep such values.
+#define SIPSN_DECLARE_TEXT( Type )                                                                                     \
+    PB_BEGIN_DECLS                                                                                                     \
+    struct Sipsn##Type;                                                                                                \
+    PB_API Sipsn##Type *sipsn___##Type##TryDecode( const PbChar *chs, int64_t length );                                \
+    PB_API PbString    *sipsn___##Type##Encode( Sipsn##Type *value );                                                  \
+    PB_END_DECLS                                                                                                       \
+    SIPSN_DECLARE_RECORD( Type )
+
+// Defines what SIPSN_DECLARE_TEXT declares, behind SIPSN_DEFINE_TYPE. `self` is the name that the
 // type's conditions use for an object. SIPSN_DEFINE_TEXT( Reason, reason, form ) defines
 //
 //     sipsn___ReasonTryDecode, sipsn___ReasonEncode, sipsn::schemaReason

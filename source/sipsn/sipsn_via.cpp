@@ -5,6 +5,8 @@
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
+SIPSN_DECLARE_TEXT( Via )
+
 using sipsn::BasicCursor, sipsn::Cursor, sipsn::Span, sipsn::TextWriter;
 
 namespace sipsn::rule {

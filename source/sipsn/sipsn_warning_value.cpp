@@ -7,6 +7,8 @@
 #include "sipsn_warn_code.h"
 #include "sipsn_warn_text.h"
 
+SIPSN_DECLARE_TEXT( WarningValue )
+
 using sipsn::BasicCursor;
 
 namespace sipsn::rule {

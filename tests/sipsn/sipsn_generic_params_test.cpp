@@ -3,6 +3,9 @@
 
 #include "sipsn/sipsn_value_internal.h"
 
+#define VALUE( Type, ... ) SIPSN_DECLARE_TEXT( Type )
+#include "sipsn/sipsn_values.inc"
+
 namespace {
 
 TEST( SipsnGenericParam, TypesOfValues )

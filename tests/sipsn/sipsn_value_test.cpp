@@ -4,6 +4,9 @@
 
 #include "sipsn/sipsn_value_internal.h"
 
+#define VALUE( Type, ... ) SIPSN_DECLARE_TEXT( Type )
+#include "sipsn/sipsn_values.inc"
+
 namespace {
 
 auto Via( std::string_view text ) { return Decoded< sipsn___ViaTryDecode >( text ); }
