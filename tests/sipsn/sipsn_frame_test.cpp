@@ -44,13 +44,14 @@ namespace {
 
 struct Type
 {
-    explicit Type( const std::string &name_ ) : name{ name_ } {}
+    explicit Type( const std::string &name_, const char *module_ = "sipsn" ) : module{ module_ }, name{ name_ } {}
 
     template< class F > F *Function( const char *operation ) const
     {
-        return Exported< F >( "sipsn" + name + operation );
+        return Exported< F >( module + name + operation );
     }
 
+    std::string module;
     std::string name; // "HeaderVia"
 
     using Unary                  = PbObj *( PbObj                  *);
@@ -195,21 +196,38 @@ PbObj *MakeAnother( const Type &type, const Sample &sample, PbObj *object )
 
 // ---- Tests -----------------------------------------------------------------------------------------
 
+const auto checkReferences = []( const Type &type, const Sample &, pb::Ref< PbObj > &object ) {
+    EXPECT_EQ( object->count, 1u );
+    EXPECT_EQ( type.retain( object.Get() ), object.Get() );
+    EXPECT_EQ( object->count, 2u );
+    EXPECT_EQ( type.obj( object.Get() ), object.Get() );
+    EXPECT_EQ( type.from( object.Get() ), object.Get() );
+    EXPECT_EQ( type.from( nullptr ), nullptr );
+    EXPECT_EQ( type.compare( object.Get(), object.Get() ), 0 );
+    EXPECT_TRUE( type.equals( object.Get(), object.Get() ) );
+    EXPECT_EQ( object->count, 2u );
+    type.release( object.Get() );
+    EXPECT_EQ( object->count, 1u );
+};
+
 TEST( SipsnFrame, ReferencesAreCounted )
 {
-    ForEveryType( []( const Type &type, const Sample &, pb::Ref< PbObj > &object ) {
-        EXPECT_EQ( object->count, 1u );
-        EXPECT_EQ( type.retain( object.Get() ), object.Get() );
-        EXPECT_EQ( object->count, 2u );
-        EXPECT_EQ( type.obj( object.Get() ), object.Get() );
-        EXPECT_EQ( type.from( object.Get() ), object.Get() );
-        EXPECT_EQ( type.from( nullptr ), nullptr );
-        EXPECT_EQ( type.compare( object.Get(), object.Get() ), 0 );
-        EXPECT_TRUE( type.equals( object.Get(), object.Get() ) );
-        EXPECT_EQ( object->count, 2u );
-        type.release( object.Get() );
-        EXPECT_EQ( object->count, 1u );
-    } );
+    ForEveryType( checkReferences );
+
+    const std::pair< const char *, const char * > base[] = { { "pb", "Buffer" }, { "pb", "Dict" },   { "pb", "Store" },
+                                                             { "pb", "String" }, { "pb", "Vector" }, { "pb", "Time" },
+                                                             { "in", "Address" } };
+    for( const auto &[ module, name ] : base ) {
+        const Type type{ name, module };
+        SCOPED_TRACE( module + type.name );
+        pb::Ref object{ type.name == "Address" ? inAddressObj( inAddressTryCreateFromChars( Chars( "::1" ).data(), 3 ) )
+                        : type.name == "String" ? pbStringObj( pbStringCreateFromCstr( "text", -1 ) )
+                                                : type.Function< PbObj *() >( "Create" )() };
+        checkReferences( type, {}, object );
+        EXPECT_EQ( type.sort(), object->sort );
+        EXPECT_TRUE( type.equals( pb::Ref{ type.createFrom( object.Get() ) }.Get(), object.Get() ) );
+        EXPECT_TRUE( pb::Ref{ type.toString( object.Get() ) } );
+    }
 }
 
 TEST( SipsnFrame, TheTextIsTheEncodedOne )

@@ -51,6 +51,7 @@ TEST( SipsnMessageStreamDecoder, AMessageComesWithItsLastByteAndNotBefore )
     for( size_t at = 0; at < busy.size(); ++at ) {
         EXPECT_EQ( sipsnMessageStreamDecoderRead( decoder.Get() ), nullptr );
         EXPECT_EQ( sipsnMessageStreamDecoderLength( decoder.Get() ), int64_t( at ) );
+        EXPECT_GE( sipsnMessageStreamDecoderSpace( decoder.Get() ), 0 );
         Write( decoder.Get(), busy.substr( at, 1 ) );
     }
     EXPECT_THAT( ReadAll( decoder.Get() ), testing::ElementsAre( busy ) );

@@ -87,6 +87,8 @@ TEST( SipsnMessageFragment, EncodesOneTrueLength )
 {
     pb::Ref frag = Fragment( "A: 1\r\nl: 4\r\nl: 4\r\nZ: 2\r\n\r\nbody" );
     EXPECT_EQ( Wire( frag.Get() ), "Accept-Contact: 1\r\nContent-Length: 4\r\nZ: 2\r\n\r\nbody" );
+    pb::Ref length{ sipsnMessageFragmentHeaderContentLength( frag.Get() ) };
+    EXPECT_TRUE( pbStringEqualsCstr( pb::Ref{ sipsnMessageHeaderName( length.Get() ) }.Get(), "Content-Length", -1 ) );
     sipsnMessageFragmentSetBody( frag.Slot(), Bytes( std::string( 1000, 'x' ) ).Get() );
     EXPECT_THAT( Wire( frag.Get() ), testing::HasSubstr( "Content-Length: 1000\r\n" ) );
     sipsnMessageFragmentSetBody( frag.Slot(), Bytes( "" ).Get() );
@@ -134,6 +136,8 @@ TEST( SipsnMessage, IsCreatedAndHasHeaders )
 {
     pb::Ref msg{ sipsnMessageCreateResponse( Sip20().Get(), 486 ) };
     EXPECT_EQ( Take( sipsnMessageResponseReasonPhrase( msg.Get() ) ), "Busy here" );
+    sipsnMessageSetResponse( msg.Slot(), Sip20().Get(), 180 );
+    EXPECT_EQ( Take( sipsnMessageResponseReasonPhrase( msg.Get() ) ), "Ringing" );
     sipsnMessageSetHeader( msg.Slot(), pb::Ref{ sipsnMessageHeaderCreateCstr( "Q", -1 ) }.Get() );
     EXPECT_EQ( pbVectorLength( pb::Ref{ sipsnMessageHeadersVector( msg.Get() ) }.Get() ), 1 );
 }

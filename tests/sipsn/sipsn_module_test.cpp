@@ -2,6 +2,8 @@
 #include "exports.h"
 #include "message_text.h"
 
+#include "in/in_module.h"
+#include "iri/iri_module.h"
 #include "sipsn/sipsn_header_internal.h"
 #include "sipsn/sipsn_internal.h"
 #include "sipsn/sipsn_schema.h"
@@ -32,6 +34,8 @@ TEST( SipsnModule, TheRecordTellsWhatWasBuilt )
     EXPECT_STREQ( record->moduleDescription, "SIP Syntax" );
     EXPECT_STREQ( record->moduleVersion, "0.0" );
     EXPECT_STREQ( record->dependencies, "in iri pb" );
+    EXPECT_STREQ( pbModuleRecord( inModule() )->moduleName, "in" );
+    EXPECT_STREQ( pbModuleRecord( iriModule() )->moduleName, "iri" );
     EXPECT_STREQ( record->reserved, "" );
     EXPECT_STREQ( record->versionString, sipsn___module_version_string );
     EXPECT_THAT( record->buildTime, testing::MatchesRegex( "UTC ....-..-.. ..:..:.. \\([A-Z][a-z]+day\\)" ) );
