@@ -134,7 +134,7 @@ def read_type(header, word):
     rfc = block and re.search(r"RFC \d+|draft-[\w-]+", block.group())
     if not rfc or header.stem != snake(struct):
         fail(header.name, f"is not named after {struct}, or does not begin with that name and an RFC")
-    found = re.search(r"^ \* Example: (.*(?:\n \* \S.*)*)", block.group(), re.MULTILINE)
+    found = re.search(r"^ \* Example:(?: |\n \* )(.*(?:\n \* \S.*)*)", block.group(), re.MULTILINE)
     example = found.group(1).replace("\n *", "") if found else ""
     if word != "HEADER":
         short = struct.removeprefix("Sipsn")

@@ -49,7 +49,7 @@ def spellings(type_name, arguments):
 def descriptions():
     """By the directive's word: the header that describes it, the names there, and the declarations."""
     found = {}
-    for path in SOURCE / "pb/pb_types.h", SOURCE / "sipsn/sipsn_header.h":
+    for path in (SOURCE / name for name in ("pb/pb_types.h", "sipsn/sipsn_header.h", "sipsn/sipsn_member.h")):
         for word, arguments, type_name, text in DESCRIPTION.findall(path.read_text()):
             names = spellings(type_name, arguments.split(", ")) if type_name else spellings(arguments, [])
             found[word] = path.name, names, "\n".join(DESCRIBED_LINE.findall(text)).strip().split("\n")
@@ -68,6 +68,20 @@ def declarations(word, type_name, arguments):
         text += "PB_API " if line and not line.startswith("typedef") else ""
         text += pattern.sub(lambda name: spelt[name.group()], line) + "\n"
     return declarations("TYPE", type_name, arguments) + "\n" + text if word == "HEADER" else text
+
+
+# The lines of a type's own file that define the functions of members: SIPSN_TEXT( HeaderJoin, hdr, CallId, callId, ... )
+MEMBER = re.compile(r"^SIPSN_(\w+)\( ([^()]+?) \)$", re.MULTILINE)
+
+
+def members(path, type_name):
+    """The declarations of the functions that a type's file defines for its members."""
+    found = []
+    for word, arguments in MEMBER.findall(path.with_suffix(".cpp").read_text()):
+        if word in descriptions():
+            wanted = len(descriptions()[word][1]) - 3 # beyond the two names of the type and that of a parameter
+            found.append(declarations(word, type_name, re.split(r",\s+", arguments)[1:][:wanted]))
+    return "\n".join(found) or fail(path.name, "has no functions of members")
 
 
 # ---- Registers and tables --------------------------------------------------------------------------
@@ -202,6 +216,9 @@ def filled(path):
             text = WRITERS[word]()
         elif word == "includes":
             text = "".join(f'#include "{header.name}"\n' for header in public_headers(path.parent.name) if header != path)
+        elif word == "members":
+            heading += ", see sipsn_member.h"
+            text = members(path, type_name)
         elif word in descriptions():
             heading += f", see {descriptions()[word][0]}"
             text = declarations(word, type_name, [] if arguments == type_name else arguments.split(", "))

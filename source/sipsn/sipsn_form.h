@@ -74,6 +74,18 @@ template< class Link, class T >
     return TryDecodeParams( in, &value.genericParams, takeTyped, rest );
 }
 
+// Reads parameter *( separator parameter ) up to the end of the text: a value that consists of them alone.
+template< class Link, class T > bool TryDecodeOnlyParams( BasicCursor< Link > &in, T &value, Production *separator )
+{
+    do {
+        if( TakeTypedParam( in, value ) ) continue;
+        SipsnGenericParam *param = TakeGenericParam( in );
+        if( !param ) return false;
+        SetParamOwned( &value.genericParams, param );
+    } while( in.Take( separator ) );
+    return in.AtEnd();
+}
+
 // Whether a member that is present is written under this name, in the place of a generic parameter.
 template< class T > bool HasTypedParam( T &value, PbString *name )
 {
@@ -89,12 +101,13 @@ template< class T > bool HasTypedParam( T &value, PbString *name )
 }
 
 // Writes the generic parameters but for those that `isTaken( name )` keeps away.
-template< class IsTaken > void WriteGenericParams( TextWriter &out, SipsnGenericParams *params, IsTaken isTaken )
+template< class IsTaken, class Separators >
+void WriteGenericParams( TextWriter &out, SipsnGenericParams *params, IsTaken isTaken, Separators &separators )
 {
     for( int64_t at = 0, length = sipsnGenericParamsLength( params ); at < length; ++at ) {
         SipsnGenericParam *param = PeekParamAt( params, at );
         if( isTaken( PeekName( param ) ) ) continue;
-        out.Char( ';' );
+        separators.Begin( out );
         WriteGenericParam( out, param );
     }
 }
@@ -115,13 +128,15 @@ template< class T > consteval auto RowsAsWritten()
 template< class T > inline constexpr auto rowsAsWritten = RowsAsWritten< T >();
 
 // Writes the members that are parameters, and the generic parameters but for those of a name that a member has taken.
-template< class T > void WriteParams( TextWriter &out, T &value )
+template< class T, class Separators = Semicolons >
+void WriteParams( TextWriter &out, T &value, Separators separators = {} )
 {
     rowsAsWritten< T >.All( [ & ]( const auto &row ) __attribute__( ( always_inline ) ) {
-        if constexpr( requires { row.Write( out, value ); } ) row.Write( out, value );
+        if constexpr( requires { row.Write( out, value, separators ); } ) row.Write( out, value, separators );
         return true;
     } );
-    WriteGenericParams( out, value.genericParams, [ & ]( PbString *name ) { return HasTypedParam( value, name ); } );
+    const auto isTaken = [ & ]( PbString *name ) { return HasTypedParam( value, name ); };
+    WriteGenericParams( out, value.genericParams, isTaken, separators );
 }
 
 // A new object. Its parameters and items are empty: they are never absent.

@@ -237,7 +237,9 @@ struct Form
 
     void Write( TextWriter &out, SipsnGenericParams &params ) const
     {
-        WriteGenericParams( out, &params, []( PbString * ) { return false; } );
+        sipsn::Semicolons separators;
+        WriteGenericParams(
+            out, &params, []( PbString * ) { return false; }, separators );
     }
 };
 

@@ -20,6 +20,22 @@ void CreateName( PbString *&constant, const char *text )
     ShareHeaderName( constant );
 }
 
+int64_t SkipListItem( const PbChar *chs, int64_t length )
+{
+    int64_t end = 0; // behind what is not a blank
+    for( int64_t n = 0; n < length && chs[ n ] != ','; ) {
+        int64_t count = 1;
+        if( chs[ n ] == '"' ) count = sipsn___SkipQuotedString( chs + n, length - n );
+        if( chs[ n ] == '<' ) count = std::find( chs + n, chs + length - 1, '>' ) + 1 - ( chs + n );
+        if( count == 0 ) return 0;
+        n += count;
+        if( !Is( chs[ n - 1 ], Lws ) ) end = n;
+    }
+    return end;
+}
+
+int64_t SkipLine( const PbChar *, int64_t length ) { return length; }
+
 // An item is what the header field takes for one; a value is then looked into. Where no item ends with a separator, the
 // value says what it would have taken: it may come farther than the item did.
 bool WatchItems( Span line, Production *item, Production *separator, const TextRule *rule, const TypeRecord *type,

@@ -17,6 +17,7 @@
 #include "sipsn_header.h"
 #include "sipsn_header_internal.h"
 #include "sipsn_header_names.h"
+#include "sipsn_member_functions.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
@@ -72,6 +73,10 @@ bool TryDecodeItems( SipsnMessageHeader *header, Production *item, Production *s
     }
     return true;
 }
+
+// An item up to the next comma that is neither quoted nor between angle brackets, without the blanks before it; and a
+// whole line, whose commas belong to the value.
+Production SkipListItem, SkipLine;
 
 // Tells why a line of items is refused: what the items or, where these have a type, their values want. False when it
 // is.
@@ -134,6 +139,8 @@ template< class Header > struct List
         if( noLines == NoLines::givesNull && LineCount( header ) == 0 ) return nullptr;
         pb::Ref    hdr{ Create() };
         const auto keep = [ & ]( Span found ) {
+            if constexpr( row.decodes )
+                if( !pb::Ref{ row.type->text.tryDecode( found.chs, found.length ) } ) return false;
             pb___VectorAppendOwned( &( ( *hdr.Get() ).*row.member ),
                                     pb::AsObj( row.stored( found.chs, found.length ) ) );
             return true;
@@ -377,6 +384,18 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
         return shape.TryDecode( pb::Ref{ sipsnMessageHeaderRestoreLines( sipsn___Pbs##Family, store ) }.Get() );       \
     }
 
+// All of a header type whose lines a form of sipsn_form.h reads, but for the functions of its members.
+#define SIPSN_SINGLE_HEADER( Family, text, SORT, Form )                                                                \
+    SIPSN_DEFINE_NAME( Family, text )                                                                                  \
+    static constexpr sipsn::LastLine< SipsnHeader##Family, Form< SipsnHeader##Family > > shape{};                      \
+    SIPSN_DEFINE_HEADER( Family, SORT, shape )
+
+// All of one that is a list, one item a line, but for the functions of the list.
+#define SIPSN_LIST_HEADER( Family, text, SORT, noLines )                                                               \
+    SIPSN_DEFINE_NAME( Family, text )                                                                                  \
+    static constexpr sipsn::List< SipsnHeader##Family > shape{ sipsn::NoLines::noLines };                              \
+    SIPSN_DEFINE_HEADER( Family, SORT, shape )
+
 // ---- The functions of a list -----------------------------------------------------------------------
 
 // Defines the functions of a list (sipsn_header.h), which is the member `items`, and `stored( value )` gives the text
@@ -430,6 +449,33 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 #define SIPSN_LIST_AT( hdr, index ) ( PB_ABORT_UNLESS( nullptr, "hdr", hdr ), pbVectorStringAt( hdr->items, index ) )
 #define SIPSN_LIST_TRY_DECODE_AT( hdr, index, tryDecode )                                                              \
     ( PB_ABORT_UNLESS( nullptr, "hdr", hdr ), sipsn::TryDecodeAt( hdr->items, index, tryDecode ) )
+
+// All functions of a list of values or of texts, whose member is `items`. The first says `SipsnPath *` where the list
+// holds values of that type; the second wants what makes a text an item.
+//
+//     SIPSN_VALUES( Path, Routes, Route, Route, route )
+//     SIPSN_TEXTS( ContentLanguage, Languages, Language, language, sipsnLanguageTagOk )
+#define SIPSN_VALUES( Family, Items, Item, Value, value )                                                              \
+    SIPSN_DEFINE_LIST( Family, Items, Item, Sipsn##Value, value, sipsn___##Value##Encode )                             \
+    SIPSN_CREATE( Header##Family )                                                                                     \
+    void          sipsnHeader##Family##Clear##Items( SipsnHeader##Family **hdr ) { SIPSN_LIST_CLEAR( hdr ); }          \
+    Sipsn##Value *sipsnHeader##Family##TryDecode##Item##At( SipsnHeader##Family *hdr, int64_t index )                  \
+    {                                                                                                                  \
+        return SIPSN_LIST_TRY_DECODE_AT( hdr, index, sipsn___##Value##TryDecode );                                     \
+    }
+#define SIPSN_TEXTS( Family, Items, Item, item, Ok )                                                                   \
+    static PbString *Stored( PbString *item )                                                                          \
+    {                                                                                                                  \
+        PB_ASSERT( Ok( item ) );                                                                                       \
+        return sipsn::itemsRow< SipsnHeader##Family >.rule->normal( item );                                            \
+    }                                                                                                                  \
+    SIPSN_DEFINE_LIST( Family, Items, Item, PbString, item, Stored )                                                   \
+    SIPSN_CREATE( Header##Family )                                                                                     \
+    void      sipsnHeader##Family##Clear##Items( SipsnHeader##Family **hdr ) { SIPSN_LIST_CLEAR( hdr ); }              \
+    PbString *sipsnHeader##Family##Item##At( SipsnHeader##Family *hdr, int64_t index )                                 \
+    {                                                                                                                  \
+        return SIPSN_LIST_AT( hdr, index );                                                                            \
+    }
 
 // ---- The functions of a token set ------------------------------------------------------------------
 

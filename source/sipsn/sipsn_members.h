@@ -94,14 +94,28 @@ inline void Write( TextWriter &out, const IntRule &rule, int64_t number )
 
 // ---- Writing parameters ----------------------------------------------------------------------------
 
-inline void WriteParamName( TextWriter &out, std::string_view name )
+// What stands before each parameter that is written: a semicolon; or a separator, and before the first another
+// character or, where it is 0, nothing.
+struct Semicolons
 {
-    out.Char( ';' );
+    void Begin( TextWriter &out ) { out.Char( ';' ); }
+};
+struct Between
+{
+    PbChar separator;
+    PbChar next = 0;
+
+    void Begin( TextWriter &out )
+    {
+        if( next ) out.Char( next );
+        next = separator;
+    }
+};
+
+template< class Separators > void BeginParam( TextWriter &out, Separators &separators, std::string_view name )
+{
+    separators.Begin( out );
     out.Ascii( name );
-}
-inline void BeginParam( TextWriter &out, std::string_view name )
-{
-    WriteParamName( out, name );
     out.Char( '=' );
 }
 
@@ -157,10 +171,11 @@ template< class T > struct TextRow
         return true;
     }
 
-    [[gnu::always_inline]] void Write( TextWriter &out, T &value ) const
+    template< class Separators >
+    [[gnu::always_inline]] void Write( TextWriter &out, T &value, Separators &separators ) const
     {
         if( param.empty() || !( value.*member ) ) return;
-        BeginParam( out, param );
+        BeginParam( out, separators, param );
         if( quoted ) out.Char( '"' );
         sipsn::Write( out, *rule, value.*member );
         if( quoted ) out.Char( '"' );
@@ -194,10 +209,11 @@ template< class T > struct IntRow
         return true;
     }
 
-    [[gnu::always_inline]] void Write( TextWriter &out, T &value ) const
+    template< class Separators >
+    [[gnu::always_inline]] void Write( TextWriter &out, T &value, Separators &separators ) const
     {
         if( param.empty() || value.*member == IntRule::absent ) return;
-        BeginParam( out, param );
+        BeginParam( out, separators, param );
         sipsn::Write( out, *rule, value.*member );
     }
 
@@ -228,14 +244,49 @@ template< class T > struct FlagRow
         return true;
     }
 
-    [[gnu::always_inline]] void Write( TextWriter &out, T &value ) const
+    template< class Separators >
+    [[gnu::always_inline]] void Write( TextWriter &out, T &value, Separators &separators ) const
     {
-        if( value.*member ) WriteParamName( out, param );
+        if( !( value.*member ) ) return;
+        separators.Begin( out );
+        out.Ascii( param );
     }
 
     constexpr FlagRow Lenient() const { return With( *this, &FlagRow::lenient, true ); }
     constexpr FlagRow NotCompared() const { return With( *this, &FlagRow::compared, false ); }
     constexpr FlagRow Excluding( int64_t T::*number ) const { return With( *this, &FlagRow::excludes, number ); }
+};
+
+// A parameter that says "true" or, when it is absent, "false".
+template< class T > struct TrueRow
+{
+    std::string_view name;
+    bool T::        *member;
+    std::string_view param;
+
+    static constexpr int64_t kind         = SIPSN_SCHEMA_KIND_FLAG;
+    static constexpr bool    optional     = true;
+    static constexpr int64_t T::*excludes = nullptr;
+
+    template< class Link > bool Take( BasicCursor< Link > &in, T &value ) const
+    {
+        BasicCursor< Link > ahead = in;
+        if( !ahead.Keyword( param ) || !ahead.Take( sipsn___SkipEqual ) ) return false;
+        const bool quoted{ ahead.Take( PbChar{ '"' } ) };
+        const bool isTrue{ ahead.Keyword( "true" ) };
+        if( !isTrue && !ahead.Keyword( "false" ) ) return false;
+        if( quoted ? !ahead.Take( PbChar{ '"' } ) : ahead.Sees( sipsn___SkipToken ) ) return false;
+        value.*member = isTrue;
+        in            = ahead;
+        return true;
+    }
+
+    template< class Separators > void Write( TextWriter &out, T &value, Separators &separators ) const
+    {
+        if( !( value.*member ) ) return;
+        BeginParam( out, separators, param );
+        out.Ascii( "true" );
+    }
 };
 
 // An address, as a parameter.
@@ -259,10 +310,10 @@ template< class T > struct AddressRow
         return true;
     }
 
-    void Write( TextWriter &out, T &value ) const
+    template< class Separators > void Write( TextWriter &out, T &value, Separators &separators ) const
     {
         if( !( value.*member ) ) return;
-        BeginParam( out, param );
+        BeginParam( out, separators, param );
         out.Take( inAddressToStringShrink( value.*member ) );
     }
 
@@ -322,11 +373,12 @@ template< class T > struct ListRow
 {
     std::string_view name;
     PbVector *T::    *member;
-    Production       *item;                                 // what matches one
-    FromChars        *stored = pbStringCreateFromCharsCopy; // how that is kept
-    const TextRule   *rule   = nullptr;                     // of tokens
-    const TypeRecord *type   = nullptr;                     // of values
-    bool T::*star            = nullptr;                     // what "*" stands for instead of all items
+    Production       *item;                                  // what matches one
+    FromChars        *stored  = pbStringCreateFromCharsCopy; // how that is kept
+    const TextRule   *rule    = nullptr;                     // of tokens
+    const TypeRecord *type    = nullptr;                     // of values
+    bool              decodes = false;                       // whether only values that decode are items
+    bool T::*star             = nullptr;                     // what "*" stands for instead of all items
 
     static constexpr int64_t kind     = SIPSN_SCHEMA_KIND_LIST;
     static constexpr bool    optional = false;
@@ -394,6 +446,10 @@ template< class T > constexpr auto FlagParam( std::string_view param, bool T::*m
 {
     return FlagRow< T >{ .name = name.empty() ? param : name, .member = member, .param = param };
 }
+template< class T > constexpr auto TrueParam( std::string_view param, bool T::*member )
+{
+    return TrueRow< T >{ .name = param, .member = member, .param = param };
+}
 template< class T > constexpr auto AddressParam( std::string_view param, InAddress *T::*member )
 {
     return AddressRow< T >{ .name = param, .member = member, .param = param };
@@ -422,6 +478,13 @@ constexpr auto Values( std::string_view name, PbVector *T::*member, Production *
 template< class T > constexpr auto Items( std::string_view name, PbDict *T::*member, const TextRule &rule )
 {
     return SetRow< T >{ .name = name, .member = member, .rule = &rule };
+}
+
+// The same of values that are items only when they decode: `item` need not know their grammar.
+template< class T >
+constexpr auto DecodedValues( std::string_view name, PbVector *T::*member, Production *item, const TypeRecord &type )
+{
+    return With( Values( name, member, item, type ), &ListRow< T >::decodes, true );
 }
 
 } // namespace sipsn

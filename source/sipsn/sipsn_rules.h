@@ -15,8 +15,10 @@
 #include "sipsn_members.h"
 #include "sipsn_method.h"
 #include "sipsn_name_addr.h"
+#include "sipsn_number.h"
 #include "sipsn_option_tag.h"
 #include "sipsn_port.h"
+#include "sipsn_quotable_string.h"
 #include "sipsn_qvalue.h"
 #include "sipsn_response_num.h"
 #include "sipsn_rvalue.h"
@@ -29,6 +31,12 @@
 #include "sipsn_ttl.h"
 
 namespace sipsn {
+
+// A token, a host or a quoted string (RFC 3261 gen-value), kept as the text that it stands for. It is written as a
+// quoted string where it is neither of the others.
+Production SkipGenValue;
+PbString  *GenValueFromChars( const PbChar *chs, int64_t length );
+PbString  *GenValueToWire( PbString *text );
 
 // Digits, as far as they fit.
 inline int64_t DecimalFromChars( const PbChar *chs, int64_t length ) { return DecodeInt( chs, length, INT64_MAX ); }
@@ -62,7 +70,24 @@ inline constexpr TextRule sessUuid{
 inline constexpr TextRule tag{ .words = "a tag", .ok = sipsnTagOk, .production = sipsn___SkipTag };
 inline constexpr TextRule token{ .words = "a token", .ok = sipsnTokenOk, .production = sipsn___SkipToken };
 
+// Kept without its quotes and escapes.
+inline constexpr TextRule quotedString{ .words      = "a quoted string",
+                                        .ok         = sipsnQuotableStringOk,
+                                        .production = sipsn___SkipQuotedString,
+                                        .decoded    = Unquote,
+                                        .encoded    = sipsn___QuotableStringEncode };
+inline constexpr TextRule genValue{ .words      = "a token, a host or a quoted string",
+                                    .ok         = sipsnQuotableStringOk,
+                                    .production = SkipGenValue,
+                                    .decoded    = GenValueFromChars,
+                                    .encoded    = GenValueToWire };
+
 // In lower case.
+inline constexpr TextRule lowerToken{ .words      = "a token",
+                                      .ok         = sipsnTokenOk,
+                                      .production = sipsn___SkipToken,
+                                      .decoded    = LowerFromChars,
+                                      .normal     = ToLower };
 inline constexpr TextRule contentCoding{ .words      = "a content coding",
                                          .ok         = sipsnContentCodingOk,
                                          .production = sipsn___SkipContentCoding,
@@ -101,6 +126,12 @@ inline constexpr IntRule deltaSeconds{ .words      = "a number of seconds",
                                        .highest    = INT64_MAX,
                                        .production = sipsn___SkipDeltaSeconds,
                                        .decoded    = DecimalFromChars };
+inline constexpr IntRule number{ .words      = "a number",
+                                 .ok         = sipsnNumberOk,
+                                 .lowest     = 0,
+                                 .highest    = INT64_MAX,
+                                 .production = sipsn___SkipDigits,
+                                 .decoded    = DecimalFromChars };
 inline constexpr IntRule port{ .words      = "a port",
                                .ok         = sipsnPortOk,
                                .lowest     = 0,

@@ -6,6 +6,7 @@
 
 #include "sipsn_describe.h"
 #include "sipsn_internal.h"
+#include "sipsn_member_functions.h"
 
 PB_BEGIN_DECLS
 
@@ -50,3 +51,9 @@ PB_END_DECLS
         { []( const PbChar *chs, int64_t length ) { return pb::AsObj( sipsn___##Type##TryDecode( chs, length ) ); },   \
           []( PbObj *value ) { return sipsn___##Type##Encode( reinterpret_cast< Sipsn##Type * >( value ) ); },         \
           []( sipsn::Span text, sipsn::Watch &watch ) { return sipsn::WatchForm( form, text, watch ); } } );
+
+// All of a value that a form of sipsn_form.h reads, but for the functions of its members.
+#define SIPSN_VALUE( Type, self, SORT, Form )                                                                          \
+    SIPSN_DEFINE_TYPE( Sipsn##Type, sipsn##Type, SORT, self, self, sipsn___##Type##Encode )                            \
+    static constexpr Form< Sipsn##Type > form{};                                                                       \
+    SIPSN_DEFINE_TEXT( Type, self, form )
