@@ -129,6 +129,7 @@
 #include "sipsn_message_fragment.h"
 #include "sipsn_message_header.h"
 #include "sipsn_message_reader.h"
+#include "sipsn_message_routing.h"
 #include "sipsn_message_stream_decoder.h"
 #include "sipsn_method.h"
 #include "sipsn_module.h"
