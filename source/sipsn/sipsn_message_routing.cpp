@@ -2,15 +2,23 @@
 #include "sipsn_message_routing.h"
 
 #include "sipsn_branch.h"
+#include "sipsn_header_call_id.h"
+#include "sipsn_header_cseq.h"
+#include "sipsn_header_from.h"
+#include "sipsn_header_max_forwards.h"
+#include "sipsn_header_record_route.h"
+#include "sipsn_header_route.h"
 #include "sipsn_header_to.h"
 #include "sipsn_header_via.h"
 #include "sipsn_host.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_port.h"
 #include "sipsn_tag.h"
+#include "sipsn_text_writer.h"
+#include "sipsn_token_frame.h"
 #include "sipsn_token_internal.h"
 
-#include <string_view>
+using sipsn::TextWriter;
 
 // ---- Lists of values -------------------------------------------------------------------------------
 
@@ -66,7 +74,11 @@ template< class Header, class Value > struct List
 
 constexpr List< SipsnHeaderVia, SipsnVia > vias = LIST_OF( Via, Vias, Via );
 
-constexpr const char *cookie = "z9hG4bK"; // RFC 3261 section 8.1.1.7
+constexpr List< SipsnHeaderRoute, SipsnRoute >       routes       = LIST_OF( Route, Routes, Route );
+constexpr List< SipsnHeaderRecordRoute, SipsnRoute > recordRoutes = LIST_OF( RecordRoute, Routes, Route );
+
+constexpr const char cookie[]           = "z9hG4bK"; // RFC 3261 section 8.1.1.7
+constexpr int64_t    initialMaxForwards = 70;        // section 8.1.1.6
 
 } // namespace
 
@@ -221,4 +233,150 @@ bool sipsnMessageSetSource( SipsnMessage **msg, InAddress *source, int64_t port 
     sipsnHeaderViaSetViaAt( hdr.Slot(), 0, via.Get() );
     sipsnHeaderViaEncodeToMessage( hdr.Get(), msg );
     return true;
+}
+
+// ---- Routes ----------------------------------------------------------------------------------------
+
+SipsnRoute *sipsnMessageTopRoute( SipsnMessage *msg )
+{
+    PB_ASSERT( msg );
+    return routes.TryTop( msg );
+}
+
+SipsnRoute *sipsnMessagePopRoute( SipsnMessage **msg )
+{
+    PB_ASSERT_SLOT( msg );
+    return routes.TryPop( msg );
+}
+
+bool sipsnMessagePushRecordRoute( SipsnMessage **msg, SipsnRoute *route )
+{
+    PB_ASSERT_SLOT( msg );
+    PB_ASSERT( route );
+    return recordRoutes.TryPush( msg, route );
+}
+
+// ---- The hop count ---------------------------------------------------------------------------------
+
+int64_t sipsnMessageDecrementMaxForwards( SipsnMessage **msg )
+{
+    PB_ASSERT_SLOT( msg );
+    if( !sipsnMessageIsRequest( *msg ) ) return -1;
+    if( !sipsnHeaderMaxForwardsPresentInMessage( *msg ) ) {
+        sipsnHeaderMaxForwardsEncodeToMessage( pb::Ref{ sipsnHeaderMaxForwardsCreate( initialMaxForwards ) }.Get(),
+                                               msg );
+        return SIPSN_MAX_FORWARDS_ADDED;
+    }
+    pb::Ref hdr{ sipsnHeaderMaxForwardsTryDecodeFromMessage( *msg ) };
+    if( !hdr ) return SIPSN_MAX_FORWARDS_MALFORMED;
+    const int64_t left = sipsnHeaderMaxForwardsMaxForwards( hdr.Get() );
+    if( left == 0 ) return SIPSN_MAX_FORWARDS_ZERO;
+    sipsnHeaderMaxForwardsSetMaxForwards( hdr.Slot(), left - 1 );
+    sipsnHeaderMaxForwardsEncodeToMessage( hdr.Get(), msg );
+    return SIPSN_MAX_FORWARDS_DECREMENTED;
+}
+
+// ---- Transactions and dialogs ----------------------------------------------------------------------
+
+// The fields of an identifier are separated by single blanks, which only the last one can hold. A missing tag is empty.
+
+// Takes over the reference, which may be null.
+static void WriteLower( TextWriter &out, PbString *owned )
+{
+    pb::Ref text{ owned };
+    if( text ) out.Take( sipsn::ToLower( text.Get() ) );
+}
+
+static bool HasCookie( PbString *branch )
+{
+    sipsn::Cursor in{ branch->chs, branch->length };
+    return in.Keyword( cookie ) && !in.AtEnd();
+}
+
+// The method of the request that made a message's transaction, a new reference; null when CSeq does not decode.
+static PbString *TransactionMethod( SipsnMessage *msg )
+{
+    pb::Ref method{ sipsnMessageRequestMethod( msg ) };
+    if( method && pbStringEqualsCstr( method.Get(), "ACK", -1 ) ) return pbStringCreateFromCstr( "INVITE", -1 );
+    if( method ) return method.Detach();
+    pb::Ref cseq{ sipsnHeaderCseqTryDecodeFromMessage( msg ) };
+    return cseq ? sipsnHeaderCseqMethod( cseq.Get() ) : nullptr;
+}
+
+PbString *sipsnMessageClientTransactionKey( SipsnMessage *msg )
+{
+    PB_ASSERT( msg );
+    pb::Ref via{ sipsnMessageTopVia( msg ) };
+    pb::Ref method{ TransactionMethod( msg ) };
+    if( !via || !method || !sipsnViaHasBranch( via.Get() ) ) return nullptr;
+    return sipsn::TextOf( [ & ]( TextWriter &out ) {
+        WriteLower( out, sipsnViaBranch( via.Get() ) );
+        out.Char( ' ' );
+        out.Text( method.Get() );
+    } );
+}
+
+static PbString *Rfc2543Key( SipsnMessage *msg, SipsnVia *via, PbString *method )
+{
+    pb::Ref from{ sipsnHeaderFromTryDecodeFromMessage( msg ) };
+    pb::Ref to{ sipsnHeaderToTryDecodeFromMessage( msg ) };
+    pb::Ref callId{ sipsnHeaderCallIdTryDecodeFromMessage( msg ) };
+    pb::Ref cseq{ sipsnHeaderCseqTryDecodeFromMessage( msg ) };
+    if( !from || !to || !callId || !cseq ) return nullptr;
+    return sipsn::TextOf( [ & ]( TextWriter &out ) {
+        out.Text( method );
+        out.Char( ' ' );
+        out.Text( msg->fragment->requestIri );
+        out.Char( ' ' );
+        WriteLower( out, sipsnHeaderToTag( to.Get() ) );
+        out.Char( ' ' );
+        WriteLower( out, sipsnHeaderFromTag( from.Get() ) );
+        out.Char( ' ' );
+        out.Take( sipsnHeaderCallIdCallId( callId.Get() ) );
+        out.Char( ' ' );
+        out.Int( sipsnHeaderCseqCseq( cseq.Get() ) );
+        out.Char( ' ' );
+        out.Take( sipsnViaToString( via ) );
+    } );
+}
+
+PbString *sipsnMessageServerTransactionKey( SipsnMessage *msg )
+{
+    PB_ASSERT( msg );
+    pb::Ref via{ sipsnMessageTopVia( msg ) };
+    pb::Ref method{ TransactionMethod( msg ) };
+    if( !via || !method ) return nullptr;
+    pb::Ref branch{ sipsnViaBranch( via.Get() ) };
+    if( !branch || !HasCookie( branch.Get() ) )
+        return sipsnMessageIsRequest( msg ) ? Rfc2543Key( msg, via.Get(), method.Get() ) : nullptr;
+    return sipsn::TextOf( [ & ]( TextWriter &out ) {
+        WriteLower( out, branch.Detach() );
+        out.Char( ' ' );
+        WriteLower( out, sipsnViaHost( via.Get() ) );
+        out.Char( ':' );
+        out.Int( SentByPort( via.Get() ) );
+        out.Char( ' ' );
+        out.Text( method.Get() );
+    } );
+}
+
+PbString *sipsnMessageDialogId( SipsnMessage *msg, bool uas )
+{
+    PB_ASSERT( msg );
+    pb::Ref callId{ sipsnHeaderCallIdTryDecodeFromMessage( msg ) };
+    pb::Ref from{ sipsnHeaderFromTryDecodeFromMessage( msg ) };
+    pb::Ref to{ sipsnHeaderToTryDecodeFromMessage( msg ) };
+    if( !callId || !from || !to ) return nullptr;
+    const int64_t sc      = sipsnMessageResponseStatusCode( msg );
+    const bool    mayLack = uas || ( sc >= 200 && sc < 300 ); // the remote side, its tag
+    pb::Ref       local{ uas ? sipsnHeaderToTag( to.Get() ) : sipsnHeaderFromTag( from.Get() ) };
+    pb::Ref       remote{ uas ? sipsnHeaderFromTag( from.Get() ) : sipsnHeaderToTag( to.Get() ) };
+    if( !local || ( !remote && !mayLack ) ) return nullptr;
+    return sipsn::TextOf( [ & ]( TextWriter &out ) {
+        out.Take( sipsnHeaderCallIdCallId( callId.Get() ) );
+        out.Char( ' ' );
+        WriteLower( out, local.Detach() );
+        out.Char( ' ' );
+        WriteLower( out, remote.Detach() );
+    } );
 }

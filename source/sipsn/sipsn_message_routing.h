@@ -47,5 +47,55 @@ PB_API bool sipsnMessagePushVia( SipsnMessage **msg, SipsnVia *via, PbString *un
  * wrote there itself is replaced or deleted. False for a response, and when there is no Via that decodes. */
 PB_API bool sipsnMessageSetSource( SipsnMessage **msg, InAddress *source, int64_t port );
 
+/* ---- Routes ------------------------------------------------------------------------------------------- */
+
+/* The first Route; PopRoute takes it out, and the field with the last one, RFC 3261 sections 16.4 and 16.6. Null when
+ * there is none, or when Route does not decode. */
+PB_API SipsnRoute *sipsnMessageTopRoute( SipsnMessage *msg );
+PB_API SipsnRoute *sipsnMessagePopRoute( SipsnMessage **msg );
+
+/* Puts a Record-Route before the others, RFC 3261 section 16.6 item 4. False when the Record-Route that is there does
+ * not decode. */
+PB_API bool sipsnMessagePushRecordRoute( SipsnMessage **msg, SipsnRoute *route );
+
+/* ---- The hop count ------------------------------------------------------------------------------------ */
+
+enum
+{
+    SIPSN_MAX_FORWARDS_DECREMENTED = 0, /* forward the request: the number was above 0, and is one less now */
+    SIPSN_MAX_FORWARDS_ADDED       = 1, /* forward the request: there was no Max-Forwards, now it is 70 */
+    SIPSN_MAX_FORWARDS_ZERO        = 2, /* answer 483 (Too many hops), or an OPTIONS oneself; unchanged */
+    SIPSN_MAX_FORWARDS_MALFORMED   = 3  /* answer 400 (Bad request); unchanged */
+};
+
+/* Counts a hop of a request that is to be forwarded, RFC 3261 section 16.3 item 3 and section 16.6 item 3; one of the
+ * above, or -1 for a response. */
+PB_API int64_t sipsnMessageDecrementMaxForwards( SipsnMessage **msg );
+
+/* ---- Transactions and dialogs ------------------------------------------------------------------------- */
+
+/* Identifiers are texts to look things up by: no two transactions or dialogs have the same one. Tags, branches and
+ * hosts are in lower case, as tokens and hosts compare (RFC 3261 section 7.3.1); Call-IDs, methods and request IRIs are
+ * as they stand in the message. */
+
+/* The client transaction of a response, or of the request itself, RFC 3261 section 17.1.3: the branch of the top Via,
+ * and the method of CSeq or of the request. Null without them. */
+PB_API PbString *sipsnMessageClientTransactionKey( SipsnMessage *msg );
+
+/* The server transaction of a request, or of its response, RFC 3261 section 17.2.3: branch and sent-by of the top Via,
+ * and the method, which is INVITE for an ACK. With another method set, a CANCEL has the key of what it cancels (section
+ * 9.2).
+ *
+ * A request whose branch lacks the magic cookie has that of RFC 2543: method, request IRI, tags, Call-ID, CSeq number
+ * and the whole top Via, so ask always before or always after sipsnMessageSetSource. Its ACK has the To tag of the
+ * response, so it has the key that the INVITE has once sipsnMessageAddToTag has added that tag. A response without the
+ * cookie has none. Null when a field that counts is absent or does not decode. */
+PB_API PbString *sipsnMessageServerTransactionKey( SipsnMessage *msg );
+
+/* The dialog of a message, RFC 3261 section 12: Call-ID, local tag and remote tag. `uas`: this side is the one that
+ * received the request, and sent the response. The tag of a remote side that knows only RFC 2543 may be missing, in
+ * From and in the To of a 2xx (sections 12.1.1 and 12.1.2); null without any other of the three. */
+PB_API PbString *sipsnMessageDialogId( SipsnMessage *msg, bool uas );
+
 PB_END_DECLS
 #endif

@@ -2,6 +2,8 @@
 // the RFCs.
 #include "header_text.h"
 
+#include <set>
+
 namespace {
 
 using testing::AllOf, testing::HasSubstr, testing::Not;
@@ -42,18 +44,20 @@ std::string PopVia( pb::Ref< SipsnMessage > &msg )
 }
 
 // RFC 3261 section 24.2, F1, without Contact and body.
-const std::string invite = "INVITE sip:bob@biloxi.com SIP/2.0\n"
-                           "Call-Id: a84b4c76e66710\n"
-                           "Cseq: 314159 INVITE\n"
-                           "From: Alice <sip:alice@atlanta.com>;tag=1928301774\n"
-                           "Max-Forwards: 70\n"
-                           "To: Bob <sip:bob@biloxi.com>\n"
-                           "Via: SIP/2.0/UDP pc33.atlanta.com;branch=z9hG4bKnashds8\n";
+const std::string invite = R"(INVITE sip:bob@biloxi.com SIP/2.0
+Call-Id: a84b4c76e66710
+Cseq: 314159 INVITE
+From: Alice <sip:alice@atlanta.com>;tag=1928301774
+Max-Forwards: 70
+To: Bob <sip:bob@biloxi.com>
+Via: SIP/2.0/UDP pc33.atlanta.com;branch=z9hG4bKnashds8
 
-// A request of which some lines are other ones, or left out.
-std::string Request( std::string_view line, std::string_view instead )
+)";
+
+// A request of which a line is another one, or several, or left out.
+std::string Request( std::string_view line, std::string_view instead, const std::string &from = invite )
 {
-    std::string  text  = invite + "\n";
+    std::string  text  = from;
     const size_t begin = text.find( "\n" + std::string( line ) ) + 1;
     return text.replace( begin, text.find( '\n', begin ) + 1 - begin, instead );
 }
@@ -116,7 +120,7 @@ TEST( SipsnMessageRouting, SendsRepliesByTheRulesOfTheTransport )
     };
     for( const auto &[ via, destination ] : cases )
         EXPECT_EQ( Destination( Message( Request( "Via", "Via: SIP/2.0/" + via + "\n" ) ).Get() ), destination );
-    EXPECT_EQ( Take( sipsnMessageReplyDestination( Message( invite + "\n" ).Get(), nullptr ) ), "pc33.atlanta.com" );
+    EXPECT_EQ( Take( sipsnMessageReplyDestination( Message( invite ).Get(), nullptr ) ), "pc33.atlanta.com" );
 }
 
 TEST( SipsnMessageRouting, PopsAndPushesVias )
@@ -176,37 +180,197 @@ TEST( SipsnMessageRouting, RepliesWithWhatTheCodeWants )
 
 TEST( SipsnMessageRouting, GivesToATagOnce )
 {
-    pb::Ref reply{ sipsnMessageCreateReply( Message( invite + "\n" ).Get(), 200 ) };
-    EXPECT_TRUE( sipsnMessageAddToTag( reply.Slot(), Str( "a6c85cf" ).Get() ) );
-    EXPECT_TRUE( sipsnMessageAddToTag( reply.Slot(), Str( "other" ).Get() ) );
+    pb::Ref reply{ sipsnMessageCreateReply( Message( invite ).Get(), 200 ) };
+    for( const char *tag : { "a6c85cf", "other" } )
+        EXPECT_TRUE( sipsnMessageAddToTag( reply.Slot(), Str( tag ).Get() ) );
     EXPECT_THAT( Wire( reply.Get() ), HasSubstr( "To: \"Bob\" <sip:bob@biloxi.com>;tag=a6c85cf\n" ) );
-    for( const char *bad : { "To: \"Bob <sip:bob@biloxi.com>\n", "" } ) {
-        pb::Ref request = Message( Request( "To", bad ) );
-        EXPECT_FALSE( sipsnMessageAddToTag( request.Slot(), Str( "x" ).Get() ) );
-    }
+    EXPECT_FALSE( sipsnMessageAddToTag( Message( Request( "To", "To: \"Bob <sip:b>\n" ) ).Slot(), Str( "x" ).Get() ) );
 }
 
 TEST( SipsnMessageRouting, AnswersWhatCanBeAnswered )
 {
-    const auto answers = []( const std::string &wire ) {
-        return bool( pb::Ref{ sipsnMessageCreateReply( Message( wire ).Get(), 400 ) } );
+    const auto answer = []( const std::string &wire ) {
+        return Wire( pb::Ref{ sipsnMessageCreateReply( Message( wire ).Get(), 400 ) }.Get() ).substr( 0, 11 );
     };
-    for( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } ) {
-        EXPECT_FALSE( answers( Request( name, "" ) ) ) << name;
-        EXPECT_EQ( answers( Request( name, std::string( name ) + ": \"\n" ) ), name != std::string( "Via" ) ) << name;
+    for( const char *name : { "Via", "From", "To", "Call-Id", "Cseq" } )
+        EXPECT_EQ( answer( Request( name, "" ) ), "(null)" ) << name;
+    for( const char *name : { "From", "To", "Call-Id", "Cseq" } )
+        EXPECT_EQ( answer( Request( name, std::string( name ) + ": \"\n" ) ), "SIP/2.0 400" ) << name;
+    EXPECT_EQ( answer( "OPTIONS sip:a SIP/7.0" + invite.substr( invite.find( '\n' ) ) ), "SIP/2.0 400" );
+    EXPECT_EQ( answer( "ACK" + invite.substr( 6 ) ), "(null)" );
+    EXPECT_EQ( answer( "SIP/2.0 200 OK" + invite.substr( invite.find( '\n' ) ) ), "(null)" );
+}
+
+// ---- Routes and the hop count ------------------------------------------------------------------------
+
+TEST( SipsnMessageRouting, RecordsRoutesAndFollowsThem )
+{
+    // RFC 3261 section 16.12.1.1: the proxies put themselves in front, and the callee's BYE goes back through them.
+    pb::Ref msg = Message( invite );
+    for( const char *proxy : { "sip:p1.example.com;lr", "sip:p2.domain.com;lr" } )
+        EXPECT_TRUE(
+            sipsnMessagePushRecordRoute( msg.Slot(), pb::Ref{ sipsnRouteCreate( Str( proxy ).Get() ) }.Get() ) );
+    pb::Ref reply{ sipsnMessageCreateReply( msg.Get(), 200 ) };
+    EXPECT_THAT( Wire( reply.Get() ), HasSubstr( "Record-Route: <sip:p2.domain.com;lr>\n"
+                                                 "Record-Route: <sip:p1.example.com;lr>\n" ) );
+
+    pb::Ref bye = Message( Request( "Max-Forwards", "Route: <sip:p2.domain.com;lr>,<sip:p1.example.com;lr>\n" ) );
+    pb::Ref top{ sipsnMessageTopRoute( bye.Get() ) };
+    EXPECT_TRUE( sipsnRouteEquals( top.Get(), pb::Ref{ sipsnMessagePopRoute( bye.Slot() ) }.Get() ) );
+    EXPECT_EQ( Take( sipsnRouteIri( top.Get() ) ), "sip:p2.domain.com;lr" );
+    EXPECT_THAT( Wire( bye.Get() ), HasSubstr( "Route: <sip:p1.example.com;lr>\n" ) );
+    EXPECT_TRUE( pb::Ref{ sipsnMessagePopRoute( bye.Slot() ) } );
+    EXPECT_FALSE( sipsnHeaderRoutePresentInMessage( bye.Get() ) );
+
+    for( const char *bad : { "Subject: none\n", "Route: <sip:a\nRecord-Route: <sip:a\n" } ) {
+        pb::Ref           left   = Message( Request( "Max-Forwards", bad ) );
+        const std::string before = Wire( left.Get() );
+        EXPECT_FALSE( pb::Ref{ sipsnMessageTopRoute( left.Get() ) } );
+        EXPECT_FALSE( pb::Ref{ sipsnMessagePopRoute( left.Slot() ) } );
+        EXPECT_EQ( Wire( left.Get() ), before );
+        EXPECT_EQ( sipsnMessagePushRecordRoute( left.Slot(), top.Get() ), *bad == 'S' );
     }
-    EXPECT_TRUE( answers( Request( "Max-Forwards", "" ) ) );
-    EXPECT_FALSE( answers( "ACK" + invite.substr( 6 ) + "\n" ) );
-    EXPECT_FALSE( answers( "SIP/2.0 200 OK" + invite.substr( invite.find( '\n' ) ) + "\n" ) );
-    EXPECT_THAT( Wire( pb::Ref{ sipsnMessageCreateReply(
-                                    Message( "OPTIONS sip:a SIP/7.0" + invite.substr( 33 ) + "\n" ).Get(), 505 ) }
-                           .Get() ),
-                 HasSubstr( "SIP/2.0 505 SIP version" ) );
+}
+
+TEST( SipsnMessageRouting, CountsHops )
+{
+    const struct
+    {
+        std::string number, counted;
+        int64_t     result;
+    } cases[] = {
+        { "255", "254", SIPSN_MAX_FORWARDS_DECREMENTED },
+        { "01", "0", SIPSN_MAX_FORWARDS_DECREMENTED },
+        { "0", "0", SIPSN_MAX_FORWARDS_ZERO },
+        { "256", "256", SIPSN_MAX_FORWARDS_MALFORMED },
+        { "-1", "-1", SIPSN_MAX_FORWARDS_MALFORMED },
+        { "", "", SIPSN_MAX_FORWARDS_MALFORMED },
+    };
+    const auto with = []( const std::string &number ) { return Request( "Max-F", "Max-Forwards: " + number + "\n" ); };
+    for( const auto &row : cases ) {
+        pb::Ref msg = Message( with( row.number ) );
+        EXPECT_EQ( sipsnMessageDecrementMaxForwards( msg.Slot() ), row.result ) << row.number;
+        EXPECT_EQ( Wire( msg.Get() ), Wire( Message( with( row.counted ) ).Get() ) );
+    }
+    pb::Ref without = Message( Request( "Max-Forwards", "" ) );
+    EXPECT_EQ( sipsnMessageDecrementMaxForwards( without.Slot() ), SIPSN_MAX_FORWARDS_ADDED );
+    EXPECT_EQ( Wire( without.Get() ), Wire( Message( invite ).Get() ) );
+}
+
+// ---- Transactions and dialogs ------------------------------------------------------------------------
+
+std::string ServerKey( SipsnMessage *msg ) { return Take( sipsnMessageServerTransactionKey( msg ) ); }
+std::string ServerKey( const std::string &wire ) { return ServerKey( Message( wire ).Get() ); }
+std::string ClientKey( SipsnMessage *msg ) { return Take( sipsnMessageClientTransactionKey( msg ) ); }
+
+TEST( SipsnMessageRouting, TellsServerTransactionsApart )
+{
+    const std::string key = "z9hg4bknashds8 pc33.atlanta.com:5060 INVITE";
+    for( const std::string &same :
+         { invite, "ACK" + invite.substr( 6 ), Request( "To", "" ), Request( "Cseq", "" ),
+           Request( "Via", "v: SIP/2.0/TCP PC33.atlanta.COM:5060;received=10.1.1.1;branch=Z9HG4bKnashds8\n" ) } )
+        EXPECT_EQ( ServerKey( same ), key );
+    for( const std::string &other : { "CANCEL" + invite.substr( 6 ), "invite" + invite.substr( 6 ),
+                                      Request( "Via", "v: SIP/2.0/UDP pc33.atlanta.com;branch=z9hG4bKnashds9\n" ),
+                                      Request( "Via", "v: SIP/2.0/UDP pc34.atlanta.com;branch=z9hG4bKnashds8\n" ),
+                                      Request( "Via", "v: SIP/2.0/TLS pc33.atlanta.com;branch=z9hG4bKnashds8\n" ) } )
+        EXPECT_THAT( ServerKey( other ), AllOf( Not( key ), Not( "(null)" ) ) );
+    EXPECT_EQ( ServerKey( Request( "Via", "" ) ), "(null)" );
+}
+
+TEST( SipsnMessageRouting, TellsServerTransactionsOfRfc2543Apart )
+{
+    // The magic cookie alone says nothing.
+    const std::string old  = Request( "Via", "Via: SIP/2.0/UDP pc33.atlanta.com;branch=z9hG4bK\n" );
+    const auto        with = [ & ]( const char *line, const char *instead ) { return Request( line, instead, old ); };
+    std::set< std::string >                       keys;
+    const std::pair< const char *, const char * > changes[] = {
+        { "To", "To: Bob <sip:bob@biloxi.com>\n" },
+        { "To", "To: Bob <sip:bob@biloxi.com>;tag=1\n" },
+        { "From", "From: <sip:alice@atlanta.com>\n" },
+        { "Call-Id", "Call-Id: A84b4c76e66710\n" },
+        { "Cseq", "Cseq: 314160 INVITE\n" },
+        { "Via", "Via: SIP/2.0/UDP pc33.atlanta.com\n" },
+        { "Via", "Via: SIP/2.0/UDP pc33.atlanta.com;branch=1\n" },
+    };
+    for( const auto &[ line, instead ] : changes )
+        EXPECT_TRUE( keys.insert( ServerKey( with( line, instead ) ) ).second );
+    const std::string request = with( "To", "To: Bob <sip:bob@biloxi.com>\n" );
+    EXPECT_TRUE( keys.insert( ServerKey( "INVITE sip:Bob@biloxi.com" + request.substr( 25 ) ) ).second );
+    EXPECT_TRUE( keys.insert( ServerKey( "OPTIONS" + request.substr( 6 ) ) ).second );
+    EXPECT_FALSE( keys.contains( "(null)" ) );
+
+    EXPECT_TRUE( keys.contains( ServerKey( with( "To", "t:<sip:robert@biloxi.com> ; TAG=1\n" ) ) ) );
+    const std::string ack      = with( "To", "To: Bob <sip:bob@biloxi.com>;tag=2\n" );
+    pb::Ref           answered = Message( request );
+    sipsnMessageAddToTag( answered.Slot(), Str( "2" ).Get() );
+    EXPECT_EQ( ServerKey( answered.Get() ), ServerKey( "ACK" + ack.substr( 6 ) ) );
+
+    for( const char *line : { "To", "From", "Call-Id", "Cseq" } ) EXPECT_EQ( ServerKey( with( line, "" ) ), "(null)" );
+    EXPECT_EQ( ServerKey( pb::Ref{ sipsnMessageCreateReply( answered.Get(), 200 ) }.Get() ), "(null)" );
+}
+
+TEST( SipsnMessageRouting, NamesADialogFromBothSides )
+{
+    const auto id = []( std::string_view from, std::string_view to, bool uas, int64_t sc = 0 ) {
+        pb::Ref msg = Message( Request( "From", from, Request( "To", to ) ) );
+        if( sc > 0 ) sipsnMessageSetResponse( msg.Slot(), pb::Ref{ sipsnVersionCreateSip20() }.Get(), sc );
+        return Take( sipsnMessageDialogId( msg.Get(), uas ) );
+    };
+    const char *fromA = "From: <sip:alice@atlanta.com>;tag=A\n", *fromNobody = "From: <sip:alice@atlanta.com>\n";
+    const char *toB = "To: <sip:bob@biloxi.com>;tag=b\n", *toNobody = "To: <sip:bob@biloxi.com>\n";
+    EXPECT_EQ( id( fromA, toB, true ), "a84b4c76e66710 b a" );
+    EXPECT_EQ( id( fromA, toB, false ), "a84b4c76e66710 a b" );
+    // The remote side may be one of RFC 2543, which has no tag; without that of the local side there is no dialog yet.
+    EXPECT_EQ( id( fromNobody, toB, true ), "a84b4c76e66710 b " );
+    EXPECT_EQ( id( fromA, toNobody, false, 299 ), "a84b4c76e66710 a " );
+    EXPECT_EQ( id( fromNobody, toB, false ), "(null)" );
+    EXPECT_EQ( id( fromA, toNobody, true, 200 ), "(null)" );
+    for( int64_t sc : { 0, 199, 300 } ) EXPECT_EQ( id( fromA, toNobody, false, sc ), "(null)" ) << sc;
+    EXPECT_EQ( id( "From: <sip:a\n", toB, true ), "(null)" );
+}
+
+TEST( SipsnMessageRouting, CarriesACallThroughTwoProxies )
+{
+    // RFC 3261 section 24.2, F1 to F12: each side writes where the message came from, and each proxy itself on top.
+    const char *const lastVia = "Via: SIP/2.0/UDP pc33.atlanta.com;received=192.0.2.1;branch=z9hG4bKnashds8\n";
+    pb::Ref           msg     = Message( invite );
+    const auto        receive = [ & ]( const char *from ) {
+        EXPECT_TRUE( sipsnMessageSetSource( msg.Slot(), Address( from ).Get(), 5060 ) );
+    };
+    receive( "192.0.2.1" );
+    EXPECT_THAT( Wire( pb::Ref{ sipsnMessageCreateReply( msg.Get(), 100 ) }.Get() ), HasSubstr( lastVia ) );
+    EXPECT_EQ( sipsnMessageDecrementMaxForwards( msg.Slot() ), SIPSN_MAX_FORWARDS_DECREMENTED );
+    EXPECT_TRUE( PushVia( msg, "bigbox3.site3.atlanta.com", "77ef4c2312983.1" ) );
+    receive( "192.0.2.2" );
+    EXPECT_EQ( sipsnMessageDecrementMaxForwards( msg.Slot() ), SIPSN_MAX_FORWARDS_DECREMENTED );
+    EXPECT_TRUE( PushVia( msg, "server10.biloxi.com", "4b43c2ff8.1" ) );
+    const std::string clientKey = ClientKey( msg.Get() );
+    receive( "192.0.2.3" );
+    const std::string vias =
+        "Via: SIP/2.0/UDP server10.biloxi.com;received=192.0.2.3;branch=z9hG4bK4b43c2ff8.1\n"
+        "Via: SIP/2.0/UDP bigbox3.site3.atlanta.com;received=192.0.2.2;branch=z9hG4bK77ef4c2312983.1\n";
+    EXPECT_THAT( Wire( msg.Get() ), AllOf( HasSubstr( "Max-Forwards: 68\n" ), HasSubstr( vias + lastVia ) ) );
+    for( bool uas : { false, true } ) EXPECT_EQ( Take( sipsnMessageDialogId( msg.Get(), uas ) ), "(null)" );
+
+    pb::Ref reply{ sipsnMessageCreateReply( msg.Get(), 200 ) };
+    EXPECT_TRUE( sipsnMessageAddToTag( reply.Slot(), Str( "a6c85cf" ).Get() ) );
+    EXPECT_EQ( ServerKey( reply.Get() ), ServerKey( msg.Get() ) );
+    EXPECT_EQ( ClientKey( reply.Get() ), clientKey );
+    EXPECT_EQ( clientKey, "z9hg4bk4b43c2ff8.1 INVITE" );
+    for( const char *next : { "192.0.2.3 5060", "192.0.2.2 5060", "192.0.2.1 5060" } ) {
+        EXPECT_EQ( Destination( reply.Get() ), next );
+        EXPECT_NE( PopVia( reply ), "(null)" );
+    }
+    EXPECT_EQ( Take( sipsnMessageDialogId( reply.Get(), false ) ), "a84b4c76e66710 1928301774 a6c85cf" );
+    EXPECT_EQ( ClientKey( reply.Get() ), "(null)" );
+    EXPECT_EQ( sipsnMessageDecrementMaxForwards( reply.Slot() ), -1 );
+    EXPECT_FALSE( sipsnMessageSetSource( reply.Slot(), Address( "192.0.2.1" ).Get(), 5060 ) );
 }
 
 TEST( SipsnMessageRoutingDeathTest, WantsValidArguments )
 {
-    pb::Ref msg     = Message( invite + "\n" );
+    pb::Ref msg     = Message( invite );
     pb::Ref address = Address( "10.1.1.1" );
     pb::Ref via{ sipsnMessageTopVia( msg.Get() ) };
     EXPECT_ABORT( "sipsnStatusCodeOk( sc )", sipsnMessageCreateReply( msg.Get(), 99 ) );
