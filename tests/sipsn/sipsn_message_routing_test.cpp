@@ -83,7 +83,7 @@ TEST( SipsnMessageRouting, WritesTheSourceIntoTheTopVia )
         { "10.1.1.1 ; branch=z9hG4bK1", "10.1.1.1", 99, "10.1.1.1 ; branch=z9hG4bK1", "10.1.1.1 5060" },
         { "[2001:DB8:0::1]", "2001:db8::1", 99, "[2001:DB8:0::1]", "[2001:DB8:0::1] 5060" },
         { "[2001:db8::1]:7", "2001:db8::2", 99, "[2001:db8::1]:7;received=2001:db8::2", "[2001:db8::2] 7" },
-        // Another host gives its own address as that of a third one
+        // A client claims to be somebody else
         { "10.1.1.1;received=192.0.2.9", "10.1.1.1", 99, "10.1.1.1", "10.1.1.1 5060" },
         { "10.1.1.1;received=192.0.2.9;rport=53", "10.1.1.1", 99, "10.1.1.1;received=10.1.1.1;rport=99",
           "10.1.1.1 99" },
