@@ -131,7 +131,7 @@ def read_type(header, word):
     """The type that a header declares by TYPE, OBJECT or HEADER, from the block that the header begins with."""
     struct, = directives(header)[word]
     block = re.match(rf"/\* {struct}: .*?\*/$", header.read_text(), re.MULTILINE | re.DOTALL)
-    rfc = block and re.search(r"RFC \d+|draft-[\w-]+", block.group())
+    rfc = block and re.search(r"RFC \d+|draft-[\w-]+|3GPP TS [\d.]+", block.group())
     if not rfc or header.stem != snake(struct):
         fail(header.name, f"is not named after {struct}, or does not begin with that name and an RFC")
     found = re.search(r"^ \* Example:(?: |\n \* )(.*(?:\n \* \S.*)*)", block.group(), re.MULTILINE)

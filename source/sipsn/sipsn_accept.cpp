@@ -1,29 +1,12 @@
 // SipsnAccept: one accept-range, RFC 3261 section 20.1.
 #include "sipsn_accept.h"
 
-#include "sipsn_media_subtype.h"
-#include "sipsn_media_type.h"
 #include "sipsn_rules.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Accept )
 
 using sipsn::BasicCursor, sipsn::TextWriter;
-
-namespace sipsn::rule {
-
-static constexpr TextRule mediaType{ .words      = "a media type",
-                                     .ok         = sipsnMediaTypeOk,
-                                     .production = sipsn___SkipMediaType,
-                                     .decoded    = LowerFromChars,
-                                     .normal     = ToLower };
-static constexpr TextRule mediaSubtype{ .words      = "a media subtype",
-                                        .ok         = sipsnMediaSubtypeOk,
-                                        .production = sipsn___SkipMediaSubtype,
-                                        .decoded    = LowerFromChars,
-                                        .normal     = ToLower };
-
-} // namespace sipsn::rule
 
 struct SipsnAccept
 {

@@ -25,17 +25,17 @@ struct SipsnDigestChallenge
     {
         return pb::Members{
             sipsn::Text( "scheme", &SipsnDigestChallenge::scheme, sipsn::rule::token ),
-            sipsn::TextParam( "realm", &SipsnDigestChallenge::realm, sipsn::rule::authText ),
-            sipsn::TextParam( "domain", &SipsnDigestChallenge::domain, sipsn::rule::authText ),
-            sipsn::TextParam( "nonce", &SipsnDigestChallenge::nonce, sipsn::rule::authText ),
-            sipsn::TextParam( "opaque", &SipsnDigestChallenge::opaque, sipsn::rule::authText ),
+            sipsn::TextParam( "realm", &SipsnDigestChallenge::realm, sipsn::rule::quotedWord ),
+            sipsn::TextParam( "domain", &SipsnDigestChallenge::domain, sipsn::rule::quotedWord ),
+            sipsn::TextParam( "nonce", &SipsnDigestChallenge::nonce, sipsn::rule::quotedWord ),
+            sipsn::TextParam( "opaque", &SipsnDigestChallenge::opaque, sipsn::rule::quotedWord ),
             sipsn::TrueParam( "stale", &SipsnDigestChallenge::stale ),
             sipsn::TextParam( "algorithm", &SipsnDigestChallenge::algorithm, sipsn::rule::authToken ),
-            sipsn::TextParam( "qop", &SipsnDigestChallenge::qop, sipsn::rule::authText ),
-            sipsn::TextParam( "scope", &SipsnDigestChallenge::scope, sipsn::rule::authText ),
-            sipsn::TextParam( "authz_server", &SipsnDigestChallenge::authzServer, sipsn::rule::authText,
+            sipsn::TextParam( "qop", &SipsnDigestChallenge::qop, sipsn::rule::quotedWord ),
+            sipsn::TextParam( "scope", &SipsnDigestChallenge::scope, sipsn::rule::quotedWord ),
+            sipsn::TextParam( "authz_server", &SipsnDigestChallenge::authzServer, sipsn::rule::quotedWord,
                               "authzServer" ),
-            sipsn::TextParam( "error", &SipsnDigestChallenge::error, sipsn::rule::authText ),
+            sipsn::TextParam( "error", &SipsnDigestChallenge::error, sipsn::rule::quotedWord ),
             sipsn::OtherParams( &SipsnDigestChallenge::genericParams ),
         };
     }

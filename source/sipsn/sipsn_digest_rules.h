@@ -60,11 +60,6 @@ template< class T > struct SchemeAndParams
 namespace sipsn::rule {
 
 // Written as quoted strings.
-inline constexpr TextRule authText{ .words      = "a quoted string",
-                                    .ok         = sipsnQuotableStringOk,
-                                    .production = SkipGenValue,
-                                    .decoded    = GenValueFromChars,
-                                    .encoded    = sipsn___QuotableStringEncode };
 inline constexpr TextRule authResponse{ .words      = "quoted hexadecimal digits",
                                         .ok         = sipsnDigestResponseOk,
                                         .production = SkipGenValue,

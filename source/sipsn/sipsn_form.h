@@ -74,9 +74,11 @@ template< class Link, class T >
     return TryDecodeParams( in, &value.genericParams, takeTyped, rest );
 }
 
-// Reads parameter *( separator parameter ) up to the end of the text: a value that consists of them alone.
+// Reads parameter *( separator parameter ) up to the end of the text, or nothing: a value that consists
+// of them alone.
 template< class Link, class T > bool TryDecodeOnlyParams( BasicCursor< Link > &in, T &value, Production *separator )
 {
+    if( in.AtEnd() ) return true;
     do {
         if( TakeTypedParam( in, value ) ) continue;
         SipsnGenericParam *param = TakeGenericParam( in );

@@ -46,7 +46,9 @@ bool WatchItems( Span line, Production *item, Production *separator, const TextR
         if( !first && !in.Take( separator ) ) return false;
         const Span rest = in.Rest();
         if( rule ) {
-            if( !in.Take( item, rule->words ) ) return false;
+            const Span found = in.Take( item, rule->words );
+            if( !found ) return false;
+            if( !pb::Ref{ rule->decoded( found.chs, found.length ) } ) return in.Refuse( found, rule->words );
             continue;
         }
         const Span found  = Cursor{ rest }.Take( item );

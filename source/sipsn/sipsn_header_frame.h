@@ -141,9 +141,9 @@ template< class Header > struct List
         const auto keep = [ & ]( Span found ) {
             if constexpr( row.decodes )
                 if( !pb::Ref{ row.type->text.tryDecode( found.chs, found.length ) } ) return false;
-            pb___VectorAppendOwned( &( ( *hdr.Get() ).*row.member ),
-                                    pb::AsObj( row.stored( found.chs, found.length ) ) );
-            return true;
+            PbString *item = row.stored( found.chs, found.length );
+            if( item ) pb___VectorAppendOwned( &( ( *hdr.Get() ).*row.member ), pb::AsObj( item ) );
+            return item != nullptr;
         };
         return TryDecodeItems( header, row.item, sipsn___SkipComma, keep ) ? hdr.Detach() : nullptr;
     }

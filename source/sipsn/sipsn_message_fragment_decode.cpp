@@ -126,9 +126,10 @@ public:
     // Builds the dictionary from the larger group, known names or others, and inserts the smaller one into it.
     void MoveToDict()
     {
-        frag_->mayHold               = int64_t( present_[ 0 ] );
-        frag_->mayHold64             = int64_t( present_[ 1 ] );
-        const int64_t     knownCount = std::popcount( present_[ 0 ] ) + std::popcount( present_[ 1 ] );
+        frag_->mayHold   = int64_t( present_[ 0 ] | present_[ 2 ] );
+        frag_->mayHold64 = int64_t( present_[ 1 ] );
+        const int64_t knownCount =
+            std::popcount( present_[ 0 ] ) + std::popcount( present_[ 1 ] ) + std::popcount( present_[ 2 ] );
         const int64_t     otherCount = pbDictLength( *headers_ );
         pb::Ref< PbDict > others;
         if( otherCount <= knownCount )
@@ -137,7 +138,7 @@ public:
         ForEachKnown( [ & ]( int64_t number ) {
             insert( headers_, pb::Retain( known_[ number ]->name ), pb::AsObj( known_[ number ] ) );
         } );
-        present_[ 0 ] = present_[ 1 ] = 0;
+        std::ranges::fill( present_, 0 );
         for( int64_t at = 0; others && at < otherCount; ++at )
             pb___DictSetOwned( headers_, pbDictKeyAt( others.Get(), at ), pbDictValueAt( others.Get(), at ) );
     }
@@ -145,13 +146,13 @@ public:
 private:
     template< class Visit > void ForEachKnown( Visit visit )
     {
-        for( int word = 0; word < 2; ++word )
+        for( size_t word = 0; word < std::size( present_ ); ++word )
             for( uint64_t bits = present_[ word ]; bits != 0; bits &= bits - 1 )
                 visit( int64_t( word ) * 64 + std::countr_zero( bits ) );
     }
 
-    static_assert( headerNameCount <= 128 );
-    uint64_t              present_[ 2 ] = {}; // one bit for each known name
+    static_assert( headerNameCount <= 192 );
+    uint64_t              present_[ 3 ] = {}; // one bit for each known name
     SipsnMessageHeader   *known_[ headerNameCount ];
     SipsnMessageFragment *frag_;
     PbDict              **headers_;

@@ -156,11 +156,11 @@ inline SipsnMessageHeader *PeekHeader( SipsnMessageFragment *frag, PbString *can
     return reinterpret_cast< SipsnMessageHeader * >( pb___DictPeek( frag->headers, canonicalName ) );
 }
 
-// Whether there may be a header of the known name of that number. After decoding the answer is exact; setting a header
+// Whether there may be a header of the known name of that number: 128 names apart, two share a bit. Setting a header
 // sets all bits.
 inline bool MayHold( const SipsnMessageFragment *frag, int64_t number )
 {
-    return ( ( number < 64 ? frag->mayHold : frag->mayHold64 ) >> ( number % 64 ) & 1 ) != 0;
+    return ( ( number % 128 < 64 ? frag->mayHold : frag->mayHold64 ) >> ( number % 64 ) & 1 ) != 0;
 }
 
 // The fragment's Content-Length header, without a reference of its own, or null.

@@ -12,6 +12,8 @@
 #include "sipsn_history_info_index.h"
 #include "sipsn_host.h"
 #include "sipsn_iri.h"
+#include "sipsn_media_subtype.h"
+#include "sipsn_media_type.h"
 #include "sipsn_members.h"
 #include "sipsn_method.h"
 #include "sipsn_name_addr.h"
@@ -82,12 +84,29 @@ inline constexpr TextRule genValue{ .words      = "a token, a host or a quoted s
                                     .decoded    = GenValueFromChars,
                                     .encoded    = GenValueToWire };
 
+// The same, but always written as a quoted string.
+inline constexpr TextRule quotedWord{ .words      = "a quoted string",
+                                      .ok         = sipsnQuotableStringOk,
+                                      .production = SkipGenValue,
+                                      .decoded    = GenValueFromChars,
+                                      .encoded    = sipsn___QuotableStringEncode };
+
 // In lower case.
 inline constexpr TextRule lowerToken{ .words      = "a token",
                                       .ok         = sipsnTokenOk,
                                       .production = sipsn___SkipToken,
                                       .decoded    = LowerFromChars,
                                       .normal     = ToLower };
+inline constexpr TextRule mediaType{ .words      = "a media type",
+                                     .ok         = sipsnMediaTypeOk,
+                                     .production = sipsn___SkipMediaType,
+                                     .decoded    = LowerFromChars,
+                                     .normal     = ToLower };
+inline constexpr TextRule mediaSubtype{ .words      = "a media subtype",
+                                        .ok         = sipsnMediaSubtypeOk,
+                                        .production = sipsn___SkipMediaSubtype,
+                                        .decoded    = LowerFromChars,
+                                        .normal     = ToLower };
 inline constexpr TextRule contentCoding{ .words      = "a content coding",
                                          .ok         = sipsnContentCodingOk,
                                          .production = sipsn___SkipContentCoding,
@@ -126,6 +145,12 @@ inline constexpr IntRule deltaSeconds{ .words      = "a number of seconds",
                                        .highest    = INT64_MAX,
                                        .production = sipsn___SkipDeltaSeconds,
                                        .decoded    = DecimalFromChars };
+inline constexpr IntRule errorCode{ .words      = "a code of three digits",
+                                    .ok         = sipsnErrorCodeOk,
+                                    .lowest     = 0,
+                                    .highest    = 999,
+                                    .production = sipsn___SkipDigits,
+                                    .decoded    = DecimalFromChars };
 inline constexpr IntRule number{ .words      = "a number",
                                  .ok         = sipsnNumberOk,
                                  .lowest     = 0,

@@ -263,6 +263,7 @@ ObjPtr Create( const SipsnSchemaType *type, const std::vector< Value > &values )
     if( kinds == "" ) return ObjPtr{ Exported< O() >( name )() };
     if( kinds == "n" ) return ObjPtr{ Exported< O( N ) >( name )( number( 0 ) ) };
     if( kinds == "o" ) return ObjPtr{ Exported< O( O ) >( name )( object( 0 ) ) };
+    if( kinds == "nn" ) return ObjPtr{ Exported< O( N, N ) >( name )( number( 0 ), number( 1 ) ) };
     if( kinds == "no" ) return ObjPtr{ Exported< O( N, O ) >( name )( number( 0 ), object( 1 ) ) };
     if( kinds == "oo" ) return ObjPtr{ Exported< O( O, O ) >( name )( object( 0 ), object( 1 ) ) };
     if( kinds == "nno" ) return ObjPtr{ Exported< O( N, N, O ) >( name )( number( 0 ), number( 1 ), object( 2 ) ) };
