@@ -64,4 +64,12 @@ inline bool IsPrivateChar( PbChar ch )
     return ( ch >= 0xE000 && ch <= 0xF8FF ) || ( ch >= 0xF0000 && ch <= 0x10FFFD && ( ch & 0xFFFF ) <= 0xFFFD );
 }
 
+// Invisible characters that change the order in which the text around them is shown: the marks, embeddings, overrides
+// and isolates of the Unicode bidirectional algorithm.
+inline bool IsBidiFormatting( PbChar ch )
+{
+    return ch == 0x61C || ch == 0x200E || ch == 0x200F || ( ch >= 0x202A && ch <= 0x202E ) ||
+           ( ch >= 0x2066 && ch <= 0x2069 );
+}
+
 } // namespace iri

@@ -30,17 +30,9 @@ struct Output
     }
 };
 
-// Invisible characters that change the order in which the text around them is shown: the marks, embeddings, overrides
-// and isolates of the Unicode bidirectional algorithm.
-bool IsBidiFormatting( PbChar ch )
-{
-    return ch == 0x61C || ch == 0x200E || ch == 0x200F || ( ch >= 0x202A && ch <= 0x202E ) ||
-           ( ch >= 0x2066 && ch <= 0x2069 );
-}
-
 bool MayStandUnescaped( PbChar ch, bool inQuery )
 {
-    return !IsBidiFormatting( ch ) && ( iri::IsUcsChar( ch ) || ( inQuery && iri::IsPrivateChar( ch ) ) );
+    return !iri::IsBidiFormatting( ch ) && ( iri::IsUcsChar( ch ) || ( inQuery && iri::IsPrivateChar( ch ) ) );
 }
 
 // The character beyond ASCII that the escapes at the start of a text are the UTF-8 of; -1 when they are none. `length`
@@ -79,7 +71,7 @@ bool Unescape( const PbChar *at, const PbChar *end, Output &output )
                 changed = true;
                 continue;
             }
-        } else if( IsBidiFormatting( ch ) ) {
+        } else if( iri::IsBidiFormatting( ch ) ) {
             output.PutEscaped( ch );
             ++at;
             changed = true;

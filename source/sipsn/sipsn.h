@@ -254,6 +254,7 @@
 #include "sipsn_transport.h"
 #include "sipsn_trigger_consent.h"
 #include "sipsn_ttl.h"
+#include "sipsn_uri.h"
 #include "sipsn_user_agent.h"
 #include "sipsn_uui_value.h"
 #include "sipsn_version.h"

@@ -35,6 +35,7 @@ struct TypeRecord
     const MemberRecord *members;
     PbObj *( *create )();
     TextRecord text;
+    bool ( *isWhole )( PbObj *obj ) = nullptr; // what one member demands of the others, where they are all there
 };
 
 // What a header family adds to its type; sipsn_families.inc has the rest.
@@ -206,13 +207,23 @@ inline constexpr auto memberRecords = MakeMemberRecords< T >( std::make_index_se
 
 // ---- Types and families ----------------------------------------------------------------------------
 
+// A type whose members demand something of each other says so in `IsWhole`.
+template< class T > constexpr auto WholeOf() -> bool ( * )( PbObj * )
+{
+    if constexpr( requires( T & value ) { T::IsWhole( value ); } )
+        return []( PbObj *obj ) { return T::IsWhole( *reinterpret_cast< T * >( obj ) ); };
+    else
+        return nullptr;
+}
+
 template< class T > constexpr TypeRecord MakeTypeRecord( const char *name, TextRecord text = {} )
 {
     return { .shown   = { name, int64_t( memberRecords< T >.size() ) },
              .sort    = [] { return pb::sortOf< T >; },
              .members = memberRecords< T >.data(),
              .create  = [] { return pb::AsObj( New< T >() ); },
-             .text    = text };
+             .text    = text,
+             .isWhole = WholeOf< T >() };
 }
 
 // Whether a form reads the text, told to a watch.

@@ -46,8 +46,7 @@ template< class T > struct BillingForm
     {
         pb::Ref value{ sipsn::New< T >() };
         if( !( value->correlationId = TryTake( in, sipsn::rule::correlationId ) ) || !in.Take( PbChar{ '/' } ) ||
-            !( value->elementId = TryTake( in, sipsn::rule::elementId ) ) ||
-            !in.Take( SkipAt, "\"@\"" ) ||
+            !( value->elementId = TryTake( in, sipsn::rule::elementId ) ) || !in.Take( SkipAt, "\"@\"" ) ||
             !( value->elementHost = TryTake( in, sipsn::rule::host ) ) )
             return nullptr;
         return TryDecodeParams( in, *value.Get() ) ? value.Detach() : nullptr;

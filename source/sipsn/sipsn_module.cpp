@@ -21,6 +21,7 @@ static void Startup()
     sipsn___UuiValueStartup();
     sipsn___VersionStartup();
     sipsn___ViaStartup();
+    sipsn___UriStartup();
     sipsn___MessageFragmentStartup();
 }
 
@@ -32,6 +33,7 @@ static void Shutdown()
     sipsn___UuiValueShutdown();
     sipsn___VersionShutdown();
     sipsn___ViaShutdown();
+    sipsn___UriShutdown();
     sipsn___MessageHeaderShutdown();
 #define FAMILY( Type, ... ) sipsn___Header##Type##Shutdown();
 #include "sipsn_families.inc"

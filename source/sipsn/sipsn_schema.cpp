@@ -234,7 +234,8 @@ bool sipsnSchemaComplete( PbObj *obj )
 {
     for( int64_t member = 0; member < RecordOf( obj ).shown.memberCount; ++member )
         if( !MemberOf( obj, member ).shown.optional && !sipsnSchemaHas( obj, member ) ) return false;
-    return true;
+    const auto isWhole = RecordOf( obj ).isWhole;
+    return !isWhole || isWhole( obj );
 }
 
 // ---- Text ------------------------------------------------------------------------------------------

@@ -11,6 +11,8 @@
 PB_BEGIN_DECLS
 
 // What these files keep while the module is started.
+PB_API void sipsn___UriStartup( void );
+PB_API void sipsn___UriShutdown( void );
 PB_API void sipsn___UuiValueStartup( void );
 PB_API void sipsn___UuiValueShutdown( void );
 PB_API void sipsn___ViaStartup( void );

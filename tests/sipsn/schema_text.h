@@ -121,6 +121,8 @@ constexpr const char *texts[] = {
     "*",
     "a;b",
     "a,b",
+    "a=b",
+    "c=d",
     "\u00fc",
     "\"",
     "\x01",

@@ -1,0 +1,162 @@
+// What is particular to SipsnUri: what its schemes have, parameters and headers by name, and the two forms of its text.
+// What its texts become stands in values.txt.
+#include "header_text.h"
+#include "schema_text.h"
+
+#include "sipsn/sipsn_uri.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+pb::Ref< SipsnUri > Uri( std::string_view iri ) { return pb::Ref{ sipsnUriTryDecode( Str( iri ).Get() ) }; }
+
+std::string Iri( SipsnUri *uri ) { return uri ? Take( sipsnUriEncode( uri ) ) : "none"; }
+
+// Whether what was built is what is read again, in both forms of the text.
+void CheckRoundTrip( SipsnUri *uri )
+{
+    pb::Ref iri{ sipsnUriEncode( uri ) };
+    pb::Ref asUri{ sipsnUriEncodeUri( uri ) };
+    EXPECT_TRUE( sipsnIriOk( iri.Get() ) ) << Text( iri.Get() );
+    pb::Ref again{ sipsnUriTryDecode( iri.Get() ) };
+    pb::Ref onWire{ sipsnUriTryDecodeUri( asUri.Get() ) };
+    ASSERT_TRUE( again && onWire ) << Text( iri.Get() );
+    EXPECT_TRUE( sipsnUriEquals( uri, again.Get() ) ) << Text( iri.Get() );
+    EXPECT_TRUE( sipsnUriEquals( uri, onWire.Get() ) ) << Text( iri.Get() );
+    EXPECT_TRUE( sipsnSchemaComplete( sipsnUriObj( uri ) ) );
+}
+
+TEST( SipsnUri, IsBuiltFromParts )
+{
+    pb::Ref sip{ sipsnUriCreateSip( Str( "B\u00fccher.Example" ).Get() ) };
+    EXPECT_EQ( Take( sipsnUriHost( sip.Get() ) ), "b\u00fccher.Example" );
+    sipsnUriSetUserCstr( sip.Slot(), "%61%2f%C3%BC%e2%80%8e", -1 );
+    sipsnUriSetPasswordCstr( sip.Slot(), "", -1 );
+    sipsnUriSetPort( sip.Slot(), 0 );
+    sipsnUriSetLr( sip.Slot(), true );
+    sipsnUriSetNpdi( sip.Slot(), true );
+    sipsnUriSetMaddrCstr( sip.Slot(), "XN--BCHER-KVA.example", -1 );
+    sipsnUriAppendHeaderCstr( sip.Slot(), "Subject", -1, pb::Ref{ sipsnUriEscape( Str( "a & b" ).Get() ) }.Get() );
+    EXPECT_EQ( Iri( sip.Get() ), "sip:a%2F\u00fc%E2%80%8E:@xn--bcher-kva.Example:0;maddr=xn--bcher-kva.example;lr;npdi"
+                                 "?Subject=a%20%26%20b" );
+    EXPECT_EQ( Take( sipsnUriEncodeUri( sip.Get() ) ).substr( 0, 31 ), "sip:a%2F%C3%BC%E2%80%8E:@xn--bc" );
+    CheckRoundTrip( sip.Get() );
+    sipsnUriSetSchemeCstr( sip.Slot(), "SIPS", -1 );
+    CheckRoundTrip( sip.Get() );
+    sipsnUriDelUser( sip.Slot() );
+    EXPECT_FALSE( sipsnUriHasPassword( sip.Get() ) );
+    CheckRoundTrip( sip.Get() );
+
+    pb::Ref tel{ sipsnUriCreateTelLocal( Str( "*21#" ).Get(), Str( "example.com" ).Get() ) };
+    EXPECT_EQ( Iri( tel.Get() ), "tel:*21%23;phone-context=example.com" );
+    CheckRoundTrip( tel.Get() );
+    sipsnUriSetNumberCstr( tel.Slot(), "+1-201-(555).0123", -1 );
+    sipsnUriDelPhoneContext( tel.Slot() );
+    EXPECT_EQ( Take( sipsnUriNumber( tel.Get() ) ), "+1-201-(555).0123" );
+    EXPECT_EQ( Take( sipsnUriNumberDigits( tel.Get() ) ), "+12015550123" );
+    CheckRoundTrip( tel.Get() );
+
+    pb::Ref other{ sipsnUriCreateOther( Str( "URN" ).Get(), Str( "service:SOS%7e" ).Get() ) };
+    EXPECT_EQ( Iri( other.Get() ), "urn:service:SOS%7e" );
+    CheckRoundTrip( other.Get() );
+    sipsnUriDelRest( other.Slot() );
+    CheckRoundTrip( other.Get() );
+}
+
+TEST( SipsnUri, UrisAreReadAsIris )
+{
+    pb::Ref uri{ sipsnUriTryDecodeUri( Str( "sip:b%c3%bc@h?x=%EE%80%80" ).Get() ) };
+    EXPECT_EQ( Iri( uri.Get() ), "sip:b\u00fc@h?x=%EE%80%80" );
+    EXPECT_FALSE( pb::Ref{ sipsnUriTryDecodeUri( Str( "sip:<@h" ).Get() ) } );
+    EXPECT_EQ( Take( sipsnUriUser( uri.Get() ) ), "b\u00fc" );
+    EXPECT_EQ( sipsnUriNumberDigits( uri.Get() ), nullptr );
+    EXPECT_TRUE( sipsnUriIsSip( uri.Get() ) && !sipsnUriIsTel( uri.Get() ) && sipsnUriIsTel( Uri( "tel:+1" ).Get() ) );
+}
+
+TEST( SipsnUri, ParametersAndHeadersAreFoundByName )
+{
+    auto uri = Uri( "sip:h;gr=%2Fa;ob;ttl=3?a=1&b=2&A=3" );
+    EXPECT_EQ( Take( sipsnUriOtherParamValue( uri.Get(), Str( "%47R" ).Get() ) ), "%2Fa" );
+    EXPECT_TRUE( sipsnUriHasOtherParamCstr( uri.Get(), "OB", -1 ) );
+    EXPECT_EQ( sipsnUriOtherParamValueCstr( uri.Get(), "ob", -1 ), nullptr );
+    EXPECT_FALSE( sipsnUriHasOtherParamCstr( uri.Get(), "ttl", -1 ) ||
+                  sipsnUriHasOtherParamCstr( uri.Get(), "g", -1 ) );
+    EXPECT_EQ( Take( sipsnUriHeaderValueCstr( uri.Get(), "A", -1 ) ), "1" );
+    EXPECT_EQ( sipsnUriHeaderValueCstr( uri.Get(), "c", -1 ), nullptr );
+
+    pb::Ref kept{ sipsnUriRetain( uri.Get() ) };
+    sipsnUriSetOtherParamCstr( uri.Slot(), "GR", -1, nullptr );
+    sipsnUriSetOtherParamCstr( uri.Slot(), "X", -1, Str( "%41" ).Get() );
+    sipsnUriDelOtherParamCstr( uri.Slot(), "ob", -1 );
+    sipsnUriDelOtherParamCstr( uri.Slot(), "absent", -1 );
+    sipsnUriDelHeaderCstr( uri.Slot(), "a", -1 );
+    EXPECT_EQ( Iri( uri.Get() ), "sip:h;ttl=3;gr;x=A?b=2" );
+    EXPECT_EQ( Iri( kept.Get() ), "sip:h;ttl=3;gr=%2Fa;ob?a=1&b=2&A=3" );
+    CheckRoundTrip( uri.Get() );
+
+    auto hidden = Uri( "sip:h;ttl=300" );
+    sipsnUriSetTtl( hidden.Slot(), 3 );
+    EXPECT_EQ( Iri( hidden.Get() ), "sip:h;ttl=3" ) << "a member takes the place of a parameter of its name";
+}
+
+TEST( SipsnUri, SchemesHaveTheirMembersAlone )
+{
+    auto       sip = Uri( "sip:h" ), tel = Uri( "tel:1;phone-context=a" ), other = Uri( "x:" );
+    const auto number = Str( "1" );
+    PbString  *one    = number.Get();
+    const auto item   = Vector( { "a=b" } );
+    const auto list   = pbVectorFrom( item.Get() );
+    EXPECT_THAT( AbortOf( [ & ] { sipsnUriSetNumber( sip.Slot(), one ); } ), HasSubstr( "!Is( **uri, Kind::sip )" ) );
+    for( const auto set : { sipsnUriSetUser, sipsnUriSetPassword, sipsnUriSetHost } )
+        EXPECT_THAT( AbortOf( [ & ] { set( tel.Slot(), one ); } ), HasSubstr( "!Is( **uri, Kind::tel )" ) );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetPort( tel.Slot(), 1 ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetHeadersVector( tel.Slot(), list ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriAppendHeader( tel.Slot(), one, one ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetRest( tel.Slot(), one ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetPassword( sip.Slot(), one ); } ), "" ) << "there is no user";
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriDelPhoneContext( tel.Slot() ); } ), "" ) << "the number is local";
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetNumber( Uri( "tel:+1" ).Slot(), one ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetSchemeCstr( sip.Slot(), "tel", -1 ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetSchemeCstr( other.Slot(), "sip", -1 ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriCreate( Str( "tel" ).Get() ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriCreateTel( one ); } ), "" );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetOtherParamCstr( sip.Slot(), "ttl", -1, one ); } ), "" );
+    const auto twice = Vector( { "a", "A=1" } );
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriSetOtherParamsVector( sip.Slot(), pbVectorFrom( twice.Get() ) ); } ), "" );
+    ObjPtr obj = Retained( sipsnUriObj( sip.Get() ) );
+    EXPECT_FALSE( sipsnSchemaTrySetObject(
+        obj.Slot(), sipsnSchemaMemberIndex( sipsnSchemaTypeOf( obj.Get() ), "otherParams" ), twice.Get() ) );
+}
+
+// What only the schema can build says that it is not complete.
+TEST( SipsnUri, TheSchemaTellsWhatIsNotWhole )
+{
+    const SipsnSchemaType *type = sipsnSchemaTypeByName( "SipsnUri" );
+    struct
+    {
+        const char *iri, *member, *text; // a null text deletes
+    } constexpr rows[] = {
+        { "sip:h", "host", nullptr },
+        { "sip:h", "number", "+1" },
+        { "sip:h", "rest", "x" },
+        { "sip:h", "password", "x" },
+        { "tel:+1", "host", "h" },
+        { "tel:+1", "number", nullptr },
+        { "tel:+1", "number", "1" },
+        { "tel:+1", "user", "u" },
+        { "tel:1;phone-context=a", "phoneContext", nullptr },
+        { "tel:1;phone-context=a", "scheme", "sip" },
+    };
+    for( const auto &[ iri, member, text ] : rows ) {
+        SCOPED_TRACE( std::string{ iri } + " " + member );
+        ObjPtr        obj{ sipsnUriObj( Uri( iri ).Detach() ) };
+        const int64_t at = sipsnSchemaMemberIndex( type, member );
+        EXPECT_TRUE( sipsnSchemaComplete( obj.Get() ) );
+        EXPECT_TRUE( text ? sipsnSchemaTrySetObject( obj.Slot(), at, StrObj( text ).Get() )
+                          : sipsnSchemaTryDel( obj.Slot(), at ) );
+        EXPECT_FALSE( sipsnSchemaComplete( obj.Get() ) );
+    }
+}
+
+} // namespace
