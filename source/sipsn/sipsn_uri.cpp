@@ -300,14 +300,11 @@ bool TrySetParam( SipsnUri &uri, const Param &param, pb::Text value )
     return uri.*param.text;
 }
 
-void WriteParam( TextWriter &out, const SipsnUri &uri, const Param &param )
+void WriteValue( TextWriter &out, const SipsnUri &uri, const Param &param )
 {
-    out.Ascii( param.name );
-    if( param.flag ) return;
-    out.Char( '=' );
     if( param.number )
         out.Int( uri.*param.number );
-    else
+    else if( param.text )
         sipsn::Write( out, *param.rule, uri.*param.text );
 }
 
@@ -324,21 +321,45 @@ pb::Text ValueOf( PbString *item )
     return name < item->length ? pb::Text{ item->chs + name + 1, item->length - name - 1 } : pb::Text{};
 }
 
-// Few are held against each other.
+PbString *ToString( pb::Text text ) { return pbStringCreateFromCharsCopy( text.chs, text.length ); }
+
+// Whether a member takes the place of another parameter.
+bool IsHidden( const SipsnUri &uri, PbString *param )
+{
+    const int member = FindParam( NameOf( param ) );
+    return member >= 0 && IsPresent( uri, params[ member ] );
+}
+
 bool NamesDiffer( PbVector *items )
 {
     const int64_t length = pbVectorLength( items );
     if( length < 2 ) return true;
     pb::Ref names{ pbDictCreate() };
     for( int64_t at = 0; at < length; ++at ) {
-        const pb::Text name = NameOf( ItemAt( items, at ) );
-        PbString      *key  = pbStringCreateFromCharsCopy( name.chs, name.length );
+        PbString *key = ToString( NameOf( ItemAt( items, at ) ) );
         pb___DictSetOwned( names.Slot(), key, pb::AsObj( pb::Retain( key ) ) );
     }
     return pbDictLength( names.Get() ) == length;
 }
 
 } // namespace
+
+PbDict *sipsn::uri::ParamsByName( SipsnUri *uri )
+{
+    pb::Ref all{ pbDictCreate() };
+    for( const Param &param : params ) {
+        if( !IsPresent( *uri, param ) ) continue;
+        PbString *name  = TextOf( [ & ]( TextWriter &out ) { out.Ascii( param.name ); } );
+        PbString *value = TextOf( [ & ]( TextWriter &out ) { WriteValue( out, *uri, param ); } );
+        pb___DictSetOwned( all.Slot(), name, pb::AsObj( value ) );
+    }
+    for( int64_t at = 0, length = pbVectorLength( uri->otherParams ); at < length; ++at ) {
+        PbString *item = ItemAt( uri->otherParams, at );
+        if( IsHidden( *uri, item ) ) continue;
+        pb___DictSetOwned( all.Slot(), ToString( NameOf( item ) ), pb::AsObj( ToString( ValueOf( item ) ) ) );
+    }
+    return all.Detach();
+}
 
 PbString *sipsn::rule::KeepParam( PbString *param )
 {
@@ -691,7 +712,7 @@ static PbString *FindValue( PbVector *items, PbString *name )
     const int64_t at = FindItem( items, name );
     if( at < 0 ) return nullptr;
     const pb::Text value = ValueOf( ItemAt( items, at ) );
-    return value.chs ? pbStringCreateFromCharsCopy( value.chs, value.length ) : nullptr;
+    return value.chs ? ToString( value ) : nullptr;
 }
 
 // "name=value", or "name".
@@ -1026,12 +1047,13 @@ private:
         for( const Param &param : params ) {
             if( !IsPresent( uri, param ) ) continue;
             out.Char( ';' );
-            WriteParam( out, uri, param );
+            out.Ascii( param.name );
+            if( !param.flag ) out.Char( '=' );
+            WriteValue( out, uri, param );
         }
         for( int64_t at = 0, length = pbVectorLength( uri.otherParams ); at < length; ++at ) {
-            PbString *item   = ItemAt( uri.otherParams, at );
-            const int member = FindParam( NameOf( item ) );
-            if( member >= 0 && IsPresent( uri, params[ member ] ) ) continue;
+            PbString *item = ItemAt( uri.otherParams, at );
+            if( IsHidden( uri, item ) ) continue;
             out.Char( ';' );
             out.Text( item );
         }

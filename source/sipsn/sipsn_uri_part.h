@@ -2,6 +2,9 @@
 #pragma once
 
 #include "sipsn_cursor.h"
+#include "sipsn_uri.h"
+
+#include "pb/pb_dict.h"
 
 namespace sipsn::uri {
 
@@ -50,5 +53,8 @@ bool IsGlobal( PbString *number );
 int64_t NameLength( PbString *item );
 
 bool HasName( PbString *item, PbString *name ); // in any letter case
+
+// All parameters as they are written, the value of each by its name; empty for one without a value.
+PbDict *ParamsByName( SipsnUri *uri );
 
 } // namespace sipsn::uri

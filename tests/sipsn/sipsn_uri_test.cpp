@@ -159,4 +159,120 @@ TEST( SipsnUri, TheSchemaTellsWhatIsNotWhole )
     }
 }
 
+// ---- Equivalence -----------------------------------------------------------------------------------
+
+struct Comparison
+{
+    const char *a, *b;
+    bool        equivalent;
+};
+
+constexpr Comparison comparisons[] = {
+    // RFC 3261 section 19.1.4
+    { "sip:%61lice@atlanta.com;transport=TCP", "sip:alice@AtLanTa.CoM;Transport=tcp", true },
+    { "sip:carol@chicago.com", "sip:carol@chicago.com;newparam=5", true },
+    { "sip:carol@chicago.com", "sip:carol@chicago.com;security=on", true },
+    { "sip:carol@chicago.com;newparam=5", "sip:carol@chicago.com;security=on", true },
+    { "sip:biloxi.com;transport=tcp;method=REGISTER?to=sip:bob%40biloxi.com",
+      "sip:biloxi.com;method=REGISTER;transport=tcp?to=sip:bob%40biloxi.com", true },
+    { "sip:alice@atlanta.com?subject=project%20x&priority=urgent",
+      "sip:alice@atlanta.com?priority=urgent&subject=project%20x", true },
+    { "SIP:ALICE@AtLanTa.CoM;Transport=udp", "sip:alice@AtLanTa.CoM;Transport=UDP", false },
+    { "sip:bob@biloxi.com", "sip:bob@biloxi.com:5060", false },
+    { "sip:bob@biloxi.com", "sip:bob@biloxi.com;transport=udp", false },
+    { "sip:bob@biloxi.com", "sip:bob@biloxi.com:6000;transport=tcp", false },
+    { "sip:carol@chicago.com", "sip:carol@chicago.com?Subject=next%20meeting", false },
+    { "sip:bob@phone21.boxesbybob.com", "sip:bob@192.0.2.4", false },
+    { "sip:carol@chicago.com;security=on", "sip:carol@chicago.com;security=off", false },
+    // RFC 3261 section 19.1.6
+    { "sip:+358-555-1234567;postd=pp22@foo.com;user=phone", "sip:+358-555-1234567;POSTD=PP22@foo.com;user=phone",
+      false },
+    // RFC 5954 section 4
+    { "sip:bob@[::ffff:192.0.2.128]", "sip:bob@[::ffff:c000:280]", true },
+    { "sip:bob@[2001:db8::9:1]", "sip:bob@[2001:db8::9:01]", true },
+    { "sip:bob@[0:0:0:0:0:FFFF:129.144.52.38]", "sip:bob@[::FFFF:129.144.52.38]", true },
+    { "sip:bob@[::ffff:192.0.2.128]", "sip:bob@192.0.2.128", false },
+    { "sip:h;maddr=[::1]", "sip:h;maddr=[0::1]", true },
+    // one rule each
+    { "sip:a@h", "sips:a@h", false },
+    { "sip:a@h", "sip:h", false },
+    { "sip:a:p@h", "sip:a@h", false },
+    { "sip:a:p@h", "sip:a:P@h", false },
+    { "sip:a:@h", "sip:a@h", false },
+    { "sip:a%2Cb@h", "sip:a,b@h", false },
+    { "sip:a%23b%c3%bc@h", "sip:a%23b\u00fc@h", true },
+    { "sip:xn--bcher-kva.example", "sip:B\u00dcCHER.example", true },
+    { "sip:h.", "sip:h", false },
+    { "sip:h;user=phone", "sip:h", false },
+    { "sip:h;ttl=1", "sip:h", false },
+    { "sip:h;ttl=1", "sip:h;ttl=01", true },
+    { "sip:h;method=INVITE", "sip:h", false },
+    { "sip:h;method=INVITE", "sip:h;method=Invite", false },
+    { "sip:h;maddr=h", "sip:h", false },
+    { "sip:h;ttl=999", "sip:h", false },
+    { "sip:h;lr", "sip:h", true },
+    { "sip:h;lr=on;Ob;GR=A%2fb", "sip:h;gr=a%2Fb;ob;lr", true },
+    { "sip:h;x", "sip:h;x=1", false },
+    { "sip:h?a=1&a=1&b=2", "sip:h?b=2&A=1&a=1", true },
+    { "sip:h?a=1&a=1&b=2", "sip:h?a=1&b=2&b=2", false },
+    { "sip:h?a=x", "sip:h?a=X", false },
+    // RFC 3966 section 4
+    { "tel:+358-555-1234567;postd=pp22", "tel:+358-555-1234567;POSTD=PP22", true },
+    { "tel:+1;postd=pp22;isub=1411", "tel:+1;isub=1411;postd=pp22", true },
+    { "tel:+1-201-555-0123", "tel:+1(201)555.0123", true },
+    { "tel:+12015550123", "tel:12015550123;phone-context=+1", false },
+    { "tel:+1;npdi", "tel:+1", false },
+    { "tel:+1;x", "tel:+1", false },
+    { "tel:7042;phone-context=Example.com", "tel:70-42;phone-context=example.com", true },
+    { "tel:7042;phone-context=+1-914-555", "tel:7042;phone-context=+1914555", true },
+    { "tel:7042;phone-context=+1", "tel:7042;phone-context=+2", false },
+    { "tel:aF*;phone-context=a", "tel:Af*;phone-context=a", true },
+    { "tel:+1;ext=1-2", "tel:+1;ext=12", true },
+    { "tel:+1;tgrp=TG-1;trunk-context=a;x=%41", "tel:+1;trunk-context=A;tgrp=tg-1;x=a", true },
+    { "tel:+1;x=%2f", "tel:+1;x=/", false },
+    { "tel:+1", "sip:+1@h;user=phone", false },
+    { "urn:service:sos", "URN:service:sos", true },
+    { "urn:service:sos", "urn:service:SOS", false },
+    { "x:", "x:", true },
+};
+
+TEST( SipsnUri, EquivalenceIsThatOfItsRfcs )
+{
+    for( const auto &[ textA, textB, equivalent ] : comparisons ) {
+        SCOPED_TRACE( std::string{ textA } + " " + textB );
+        const auto a = Uri( textA ), b = Uri( textB );
+        ASSERT_TRUE( a && b );
+        EXPECT_EQ( sipsnUriEquivalent( a.Get(), b.Get() ), equivalent );
+        EXPECT_EQ( sipsnUriEquivalent( b.Get(), a.Get() ), equivalent );
+        EXPECT_TRUE( sipsnUriEquivalent( a.Get(), a.Get() ) && sipsnUriEquivalent( b.Get(), b.Get() ) );
+    }
+}
+
+// ---- Places ----------------------------------------------------------------------------------------
+
+TEST( SipsnUri, PlacesAllowWhatTheTableSays )
+{
+    // Request-URI, To, From, Contact in REGISTER and 3xx, Contact in a dialog and Route, outside.
+    constexpr struct
+    {
+        const char *iri, *places;
+    } rows[] = {
+        { "sip:a:p@h;user=phone;x", "oooooo" },
+        { "sip:h:1", "o--ooo" },
+        { "sip:h;method=A", "-----o" },
+        { "sip:h;maddr=h", "o--ooo" },
+        { "sip:h;ttl=1", "o--o-o" },
+        { "sip:h;transport=udp", "o--ooo" },
+        { "sip:h;lr", "o---oo" },
+        { "sip:h?a=b", "---o-o" },
+        { "sip:h;lr?a=b", "-----o" },
+        { "tel:+1;lr", "oooo-o" },
+        { "urn:a", "oooo-o" },
+    };
+    for( const auto &[ iri, places ] : rows )
+        for( int64_t place = SIPSN_URI_PLACE_REQUEST; place <= SIPSN_URI_PLACE_OUTSIDE; ++place )
+            EXPECT_EQ( sipsnUriAllowedIn( Uri( iri ).Get(), place ), places[ place ] == 'o' ) << iri << " " << place;
+    EXPECT_NE( AbortOf( [ & ] { sipsnUriAllowedIn( Uri( "sip:h" ).Get(), 6 ); } ), "" );
+}
+
 } // namespace
