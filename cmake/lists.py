@@ -28,8 +28,8 @@ STARTS_BEHIND = {"Accept": "AcceptResourcePriority", "SessionExpires": "SessionI
 
 # ---- Declarations ----------------------------------------------------------------------------------
 #
-# A directive such as TYPE( SipsnVia ) stands for declarations that many headers have: those that pb_types.h or
-# sipsn_header.h describes under that word for one type, with the names replaced.
+# A directive such as TYPE( SipsnVia ) stands for declarations that many headers have: those that pb_types.h,
+# sipsn_header.h or sipsn_uri.h describes under that word for one type, with the names replaced.
 
 DESCRIPTION = re.compile(r"^/\* (\w+)\( ([\w, ]+) \)(?: of (\w+))? declares(.*?)\*/$", re.MULTILINE | re.DOTALL)
 DESCRIBED_LINE = re.compile(r"^ \*(?:     (\S.*;).*)?$", re.MULTILINE)
@@ -49,7 +49,8 @@ def spellings(type_name, arguments):
 def descriptions():
     """By the directive's word: the header that describes it, the names there, and the declarations."""
     found = {}
-    for path in (SOURCE / name for name in ("pb/pb_types.h", "sipsn/sipsn_header.h", "sipsn/sipsn_member.h")):
+    for path in (SOURCE / name for name in (
+            "pb/pb_types.h", "sipsn/sipsn_header.h", "sipsn/sipsn_member.h", "sipsn/sipsn_uri.h")):
         for word, arguments, type_name, text in DESCRIPTION.findall(path.read_text()):
             names = spellings(type_name, arguments.split(", ")) if type_name else spellings(arguments, [])
             found[word] = path.name, names, "\n".join(DESCRIBED_LINE.findall(text)).strip().split("\n")

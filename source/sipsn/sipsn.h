@@ -207,6 +207,7 @@
 #include "sipsn_message_reader.h"
 #include "sipsn_message_routing.h"
 #include "sipsn_message_stream_decoder.h"
+#include "sipsn_message_uri.h"
 #include "sipsn_method.h"
 #include "sipsn_module.h"
 #include "sipsn_number.h"

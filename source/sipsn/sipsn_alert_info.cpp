@@ -2,6 +2,7 @@
 #include "sipsn_alert_info.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( AlertInfo )
@@ -36,6 +37,7 @@ void      sipsnAlertInfoSetIri( SipsnAlertInfo **alertInfo, PbString *iri )
 {
     PB_SET( alertInfo, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( AlertInfo, alertInfo )
 
 SipsnGenericParams *sipsnAlertInfoGenericParams( SipsnAlertInfo *alertInfo )
 {

@@ -13,6 +13,7 @@
 #define SIPSN_ALERT_INFO_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -34,6 +35,11 @@ PB_API SipsnAlertInfo *sipsnAlertInfoCreate( PbString *iri );
 
 PB_API PbString *sipsnAlertInfoIri( SipsnAlertInfo *alertInfo );
 PB_API void      sipsnAlertInfoSetIri( SipsnAlertInfo **alertInfo, PbString *iri );
+
+/* ./dev lists: URI( alertInfo ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnAlertInfoTryDecodeUri( SipsnAlertInfo *alertInfo );
+PB_API void      sipsnAlertInfoSetUri( SipsnAlertInfo **alertInfo, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API SipsnGenericParams *sipsnAlertInfoGenericParams( SipsnAlertInfo *alertInfo );
 PB_API void sipsnAlertInfoSetGenericParams( SipsnAlertInfo **alertInfo, SipsnGenericParams *genericParams );

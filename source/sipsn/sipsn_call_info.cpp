@@ -3,6 +3,7 @@
 
 #include "sipsn_purpose.h"
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( CallInfo )
@@ -49,6 +50,7 @@ void      sipsnCallInfoSetIri( SipsnCallInfo **callInfo, PbString *iri )
 {
     PB_SET( callInfo, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( CallInfo, callInfo )
 
 PbString *sipsnCallInfoPurpose( SipsnCallInfo *callInfo ) { return PB_GET( callInfo, purpose ); }
 bool      sipsnCallInfoHasPurpose( SipsnCallInfo *callInfo ) { return PB_HAS( callInfo, purpose ); }

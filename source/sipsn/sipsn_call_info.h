@@ -16,6 +16,7 @@
 #define SIPSN_CALL_INFO_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -37,6 +38,11 @@ PB_API SipsnCallInfo *sipsnCallInfoCreate( PbString *iri );
 
 PB_API PbString *sipsnCallInfoIri( SipsnCallInfo *callInfo );
 PB_API void      sipsnCallInfoSetIri( SipsnCallInfo **callInfo, PbString *iri );
+
+/* ./dev lists: URI( callInfo ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnCallInfoTryDecodeUri( SipsnCallInfo *callInfo );
+PB_API void      sipsnCallInfoSetUri( SipsnCallInfo **callInfo, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnCallInfoPurpose( SipsnCallInfo *callInfo );
 PB_API bool      sipsnCallInfoHasPurpose( SipsnCallInfo *callInfo );

@@ -3,6 +3,7 @@
 
 #include "sipsn_rules.h"
 #include "sipsn_sip_instance.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Contact )
@@ -63,6 +64,7 @@ void      sipsnContactSetIri( SipsnContact **contact, PbString *iri )
 {
     PB_SET( contact, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( Contact, contact )
 
 PbString *sipsnContactDisplayName( SipsnContact *contact ) { return PB_GET( contact, displayName ); }
 bool      sipsnContactHasDisplayName( SipsnContact *contact ) { return PB_HAS( contact, displayName ); }

@@ -26,6 +26,7 @@
 #define SIPSN_CONTACT_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -47,6 +48,11 @@ PB_API SipsnContact *sipsnContactCreate( PbString *iri );
 
 PB_API PbString *sipsnContactIri( SipsnContact *contact );
 PB_API void      sipsnContactSetIri( SipsnContact **contact, PbString *iri );
+
+/* ./dev lists: URI( contact ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnContactTryDecodeUri( SipsnContact *contact );
+PB_API void      sipsnContactSetUri( SipsnContact **contact, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnContactDisplayName( SipsnContact *contact );
 PB_API bool      sipsnContactHasDisplayName( SipsnContact *contact );

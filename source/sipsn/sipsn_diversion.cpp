@@ -7,6 +7,7 @@
 #include "sipsn_diversion_reason.h"
 #include "sipsn_diversion_screen.h"
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Diversion )
@@ -106,6 +107,7 @@ void      sipsnDiversionSetIri( SipsnDiversion **diversion, PbString *iri )
 {
     PB_SET( diversion, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( Diversion, diversion )
 
 PbString *sipsnDiversionDisplayName( SipsnDiversion *diversion ) { return PB_GET( diversion, displayName ); }
 bool      sipsnDiversionHasDisplayName( SipsnDiversion *diversion ) { return PB_HAS( diversion, displayName ); }

@@ -28,6 +28,7 @@
 #define SIPSN_DIVERSION_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -50,6 +51,11 @@ PB_API SipsnDiversion *sipsnDiversionCreateWithDisplayName( PbString *iri, PbStr
 
 PB_API PbString *sipsnDiversionIri( SipsnDiversion *diversion );
 PB_API void      sipsnDiversionSetIri( SipsnDiversion **diversion, PbString *iri );
+
+/* ./dev lists: URI( diversion ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnDiversionTryDecodeUri( SipsnDiversion *diversion );
+PB_API void      sipsnDiversionSetUri( SipsnDiversion **diversion, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnDiversionDisplayName( SipsnDiversion *diversion );
 PB_API bool      sipsnDiversionHasDisplayName( SipsnDiversion *diversion );

@@ -2,6 +2,7 @@
 #include "sipsn_error_info.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( ErrorInfo )
@@ -36,6 +37,7 @@ void      sipsnErrorInfoSetIri( SipsnErrorInfo **errorInfo, PbString *iri )
 {
     PB_SET( errorInfo, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( ErrorInfo, errorInfo )
 
 SipsnGenericParams *sipsnErrorInfoGenericParams( SipsnErrorInfo *errorInfo )
 {

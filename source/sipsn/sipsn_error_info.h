@@ -13,6 +13,7 @@
 #define SIPSN_ERROR_INFO_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -34,6 +35,11 @@ PB_API SipsnErrorInfo *sipsnErrorInfoCreate( PbString *iri );
 
 PB_API PbString *sipsnErrorInfoIri( SipsnErrorInfo *errorInfo );
 PB_API void      sipsnErrorInfoSetIri( SipsnErrorInfo **errorInfo, PbString *iri );
+
+/* ./dev lists: URI( errorInfo ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnErrorInfoTryDecodeUri( SipsnErrorInfo *errorInfo );
+PB_API void      sipsnErrorInfoSetUri( SipsnErrorInfo **errorInfo, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API SipsnGenericParams *sipsnErrorInfoGenericParams( SipsnErrorInfo *errorInfo );
 PB_API void sipsnErrorInfoSetGenericParams( SipsnErrorInfo **errorInfo, SipsnGenericParams *genericParams );

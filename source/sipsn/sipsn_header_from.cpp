@@ -2,6 +2,7 @@
 #include "sipsn_header_from.h"
 
 #include "sipsn_dialog_party.h"
+#include "sipsn_uri_member.h"
 
 SIPSN_DEFINE_NAME( From, "From" )
 
@@ -28,6 +29,7 @@ void      sipsnHeaderFromSetIri( SipsnHeaderFrom **hdr, PbString *iri )
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderFrom, hdr )
 
 PbString *sipsnHeaderFromDisplayName( SipsnHeaderFrom *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderFromHasDisplayName( SipsnHeaderFrom *hdr ) { return PB_HAS( hdr, displayName ); }

@@ -23,6 +23,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_tag.h"
+#include "sipsn_uri.h"
 
 struct SipsnHeaderTo;
 
@@ -58,6 +59,11 @@ PB_API SipsnHeaderFrom *sipsnHeaderFromCreateFromHeaderTo( struct SipsnHeaderTo 
 
 PB_API PbString *sipsnHeaderFromIri( SipsnHeaderFrom *hdr );
 PB_API void      sipsnHeaderFromSetIri( SipsnHeaderFrom **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderFromTryDecodeUri( SipsnHeaderFrom *hdr );
+PB_API void      sipsnHeaderFromSetUri( SipsnHeaderFrom **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderFromDisplayName( SipsnHeaderFrom *hdr );
 PB_API bool      sipsnHeaderFromHasDisplayName( SipsnHeaderFrom *hdr );

@@ -2,6 +2,7 @@
 #include "sipsn_header_p_called_party_id.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPCalledPartyId
 {
@@ -39,6 +40,7 @@ void      sipsnHeaderPCalledPartyIdSetIri( SipsnHeaderPCalledPartyId **hdr, PbSt
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderPCalledPartyId, hdr )
 
 PbString *sipsnHeaderPCalledPartyIdDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_GET( hdr, displayName ); }
 bool sipsnHeaderPCalledPartyIdHasDisplayName( SipsnHeaderPCalledPartyId *hdr ) { return PB_HAS( hdr, displayName ); }

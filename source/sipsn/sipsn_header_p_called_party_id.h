@@ -18,6 +18,7 @@
 #include "sipsn_generic_params.h"
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -48,6 +49,11 @@ PB_API SipsnHeaderPCalledPartyId *sipsnHeaderPCalledPartyIdCreate( PbString *iri
 
 PB_API PbString *sipsnHeaderPCalledPartyIdIri( SipsnHeaderPCalledPartyId *hdr );
 PB_API void      sipsnHeaderPCalledPartyIdSetIri( SipsnHeaderPCalledPartyId **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderPCalledPartyIdTryDecodeUri( SipsnHeaderPCalledPartyId *hdr );
+PB_API void      sipsnHeaderPCalledPartyIdSetUri( SipsnHeaderPCalledPartyId **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderPCalledPartyIdDisplayName( SipsnHeaderPCalledPartyId *hdr );
 PB_API bool      sipsnHeaderPCalledPartyIdHasDisplayName( SipsnHeaderPCalledPartyId *hdr );

@@ -2,6 +2,7 @@
 #include "sipsn_header_refer_to.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderReferTo
 {
@@ -41,6 +42,7 @@ void      sipsnHeaderReferToSetIri( SipsnHeaderReferTo **hdr, PbString *iri )
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderReferTo, hdr )
 
 PbString *sipsnHeaderReferToDisplayName( SipsnHeaderReferTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReferToHasDisplayName( SipsnHeaderReferTo *hdr ) { return PB_HAS( hdr, displayName ); }

@@ -20,6 +20,7 @@
 #include "sipsn_generic_params.h"
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -50,6 +51,11 @@ PB_API SipsnHeaderReferTo *sipsnHeaderReferToCreate( PbString *iri );
 
 PB_API PbString *sipsnHeaderReferToIri( SipsnHeaderReferTo *hdr );
 PB_API void      sipsnHeaderReferToSetIri( SipsnHeaderReferTo **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderReferToTryDecodeUri( SipsnHeaderReferTo *hdr );
+PB_API void      sipsnHeaderReferToSetUri( SipsnHeaderReferTo **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderReferToDisplayName( SipsnHeaderReferTo *hdr );
 PB_API bool      sipsnHeaderReferToHasDisplayName( SipsnHeaderReferTo *hdr );

@@ -2,6 +2,7 @@
 #include "sipsn_header_referred_by.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 namespace sipsn::rule {
 
@@ -48,6 +49,7 @@ void      sipsnHeaderReferredBySetIri( SipsnHeaderReferredBy **hdr, PbString *ir
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderReferredBy, hdr )
 
 PbString *sipsnHeaderReferredByDisplayName( SipsnHeaderReferredBy *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReferredByHasDisplayName( SipsnHeaderReferredBy *hdr ) { return PB_HAS( hdr, displayName ); }

@@ -21,6 +21,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_sip_clean_msg_id.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -51,6 +52,11 @@ PB_API SipsnHeaderReferredBy *sipsnHeaderReferredByCreate( PbString *iri );
 
 PB_API PbString *sipsnHeaderReferredByIri( SipsnHeaderReferredBy *hdr );
 PB_API void      sipsnHeaderReferredBySetIri( SipsnHeaderReferredBy **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderReferredByTryDecodeUri( SipsnHeaderReferredBy *hdr );
+PB_API void      sipsnHeaderReferredBySetUri( SipsnHeaderReferredBy **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderReferredByDisplayName( SipsnHeaderReferredBy *hdr );
 PB_API bool      sipsnHeaderReferredByHasDisplayName( SipsnHeaderReferredBy *hdr );

@@ -2,6 +2,7 @@
 #include "sipsn_header_remote_party_id.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderRemotePartyId
 {
@@ -39,6 +40,7 @@ void      sipsnHeaderRemotePartyIdSetIri( SipsnHeaderRemotePartyId **hdr, PbStri
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderRemotePartyId, hdr )
 
 PbString *sipsnHeaderRemotePartyIdDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderRemotePartyIdHasDisplayName( SipsnHeaderRemotePartyId *hdr ) { return PB_HAS( hdr, displayName ); }

@@ -18,6 +18,7 @@
 #include "sipsn_generic_params.h"
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -48,6 +49,11 @@ PB_API SipsnHeaderRemotePartyId *sipsnHeaderRemotePartyIdCreate( PbString *iri )
 
 PB_API PbString *sipsnHeaderRemotePartyIdIri( SipsnHeaderRemotePartyId *hdr );
 PB_API void      sipsnHeaderRemotePartyIdSetIri( SipsnHeaderRemotePartyId **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderRemotePartyIdTryDecodeUri( SipsnHeaderRemotePartyId *hdr );
+PB_API void      sipsnHeaderRemotePartyIdSetUri( SipsnHeaderRemotePartyId **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderRemotePartyIdDisplayName( SipsnHeaderRemotePartyId *hdr );
 PB_API bool      sipsnHeaderRemotePartyIdHasDisplayName( SipsnHeaderRemotePartyId *hdr );

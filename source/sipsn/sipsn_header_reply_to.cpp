@@ -2,6 +2,7 @@
 #include "sipsn_header_reply_to.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderReplyTo
 {
@@ -39,6 +40,7 @@ void      sipsnHeaderReplyToSetIri( SipsnHeaderReplyTo **hdr, PbString *iri )
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderReplyTo, hdr )
 
 PbString *sipsnHeaderReplyToDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderReplyToHasDisplayName( SipsnHeaderReplyTo *hdr ) { return PB_HAS( hdr, displayName ); }

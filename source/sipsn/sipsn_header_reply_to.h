@@ -18,6 +18,7 @@
 #include "sipsn_generic_params.h"
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -48,6 +49,11 @@ PB_API SipsnHeaderReplyTo *sipsnHeaderReplyToCreate( PbString *iri );
 
 PB_API PbString *sipsnHeaderReplyToIri( SipsnHeaderReplyTo *hdr );
 PB_API void      sipsnHeaderReplyToSetIri( SipsnHeaderReplyTo **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderReplyToTryDecodeUri( SipsnHeaderReplyTo *hdr );
+PB_API void      sipsnHeaderReplyToSetUri( SipsnHeaderReplyTo **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderReplyToDisplayName( SipsnHeaderReplyTo *hdr );
 PB_API bool      sipsnHeaderReplyToHasDisplayName( SipsnHeaderReplyTo *hdr );

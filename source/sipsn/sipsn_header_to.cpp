@@ -2,6 +2,7 @@
 #include "sipsn_header_to.h"
 
 #include "sipsn_dialog_party.h"
+#include "sipsn_uri_member.h"
 
 SIPSN_DEFINE_NAME( To, "To" )
 
@@ -28,6 +29,7 @@ void      sipsnHeaderToSetIri( SipsnHeaderTo **hdr, PbString *iri )
 {
     PB_SET( hdr, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HeaderTo, hdr )
 
 PbString *sipsnHeaderToDisplayName( SipsnHeaderTo *hdr ) { return PB_GET( hdr, displayName ); }
 bool      sipsnHeaderToHasDisplayName( SipsnHeaderTo *hdr ) { return PB_HAS( hdr, displayName ); }

@@ -23,6 +23,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_tag.h"
+#include "sipsn_uri.h"
 
 struct SipsnHeaderFrom;
 
@@ -58,6 +59,11 @@ PB_API SipsnHeaderTo *sipsnHeaderToCreateFromHeaderFrom( struct SipsnHeaderFrom 
 
 PB_API PbString *sipsnHeaderToIri( SipsnHeaderTo *hdr );
 PB_API void      sipsnHeaderToSetIri( SipsnHeaderTo **hdr, PbString *iri );
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderToTryDecodeUri( SipsnHeaderTo *hdr );
+PB_API void      sipsnHeaderToSetUri( SipsnHeaderTo **hdr, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHeaderToDisplayName( SipsnHeaderTo *hdr );
 PB_API bool      sipsnHeaderToHasDisplayName( SipsnHeaderTo *hdr );

@@ -2,6 +2,7 @@
 #include "sipsn_history_info.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( HistoryInfo )
@@ -51,6 +52,7 @@ void      sipsnHistoryInfoSetIri( SipsnHistoryInfo **hi, PbString *iri )
 {
     PB_SET( hi, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( HistoryInfo, hi )
 
 PbString *sipsnHistoryInfoDisplayName( SipsnHistoryInfo *hi ) { return PB_GET( hi, displayName ); }
 bool      sipsnHistoryInfoHasDisplayName( SipsnHistoryInfo *hi ) { return PB_HAS( hi, displayName ); }

@@ -20,6 +20,7 @@
 #define SIPSN_HISTORY_INFO_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -41,6 +42,11 @@ PB_API SipsnHistoryInfo *sipsnHistoryInfoCreate( PbString *iri, PbString *index 
 
 PB_API PbString *sipsnHistoryInfoIri( SipsnHistoryInfo *hi );
 PB_API void      sipsnHistoryInfoSetIri( SipsnHistoryInfo **hi, PbString *iri );
+
+/* ./dev lists: URI( hi ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHistoryInfoTryDecodeUri( SipsnHistoryInfo *hi );
+PB_API void      sipsnHistoryInfoSetUri( SipsnHistoryInfo **hi, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnHistoryInfoDisplayName( SipsnHistoryInfo *hi );
 PB_API bool      sipsnHistoryInfoHasDisplayName( SipsnHistoryInfo *hi );

@@ -2,6 +2,7 @@
 #include "sipsn_identity_value.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( IdentityValue )
@@ -38,6 +39,7 @@ void      sipsnIdentityValueSetIri( SipsnIdentityValue **id, PbString *iri )
 {
     PB_SET( id, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( IdentityValue, id )
 
 PbString *sipsnIdentityValueDisplayName( SipsnIdentityValue *id ) { return PB_GET( id, displayName ); }
 bool      sipsnIdentityValueHasDisplayName( SipsnIdentityValue *id ) { return PB_HAS( id, displayName ); }

@@ -16,6 +16,8 @@
 
 #include "pb/pb_string.h"
 
+#include "sipsn_uri.h"
+
 PB_BEGIN_DECLS
 
 /* ./dev lists: TYPE( SipsnIdentityValue ), see pb_types.h */
@@ -36,6 +38,11 @@ PB_API SipsnIdentityValue *sipsnIdentityValueCreate( PbString *iri );
 
 PB_API PbString *sipsnIdentityValueIri( SipsnIdentityValue *id );
 PB_API void      sipsnIdentityValueSetIri( SipsnIdentityValue **id, PbString *iri );
+
+/* ./dev lists: URI( id ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnIdentityValueTryDecodeUri( SipsnIdentityValue *id );
+PB_API void      sipsnIdentityValueSetUri( SipsnIdentityValue **id, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnIdentityValueDisplayName( SipsnIdentityValue *id );
 PB_API bool      sipsnIdentityValueHasDisplayName( SipsnIdentityValue *id );

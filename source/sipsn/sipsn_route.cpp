@@ -2,6 +2,7 @@
 #include "sipsn_route.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Route )
@@ -38,6 +39,7 @@ void      sipsnRouteSetIri( SipsnRoute **route, PbString *iri )
 {
     PB_SET( route, iri, sipsnIriOk( iri ), pb::Retain( iri ) );
 }
+SIPSN_DEFINE_URI( Route, route )
 
 PbString *sipsnRouteDisplayName( SipsnRoute *route ) { return PB_GET( route, displayName ); }
 bool      sipsnRouteHasDisplayName( SipsnRoute *route ) { return PB_HAS( route, displayName ); }

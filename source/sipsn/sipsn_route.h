@@ -18,6 +18,7 @@
 #define SIPSN_ROUTE_H
 
 #include "sipsn_generic_params.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -39,6 +40,11 @@ PB_API SipsnRoute *sipsnRouteCreate( PbString *iri );
 
 PB_API PbString *sipsnRouteIri( SipsnRoute *route );
 PB_API void      sipsnRouteSetIri( SipsnRoute **route, PbString *iri );
+
+/* ./dev lists: URI( route ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnRouteTryDecodeUri( SipsnRoute *route );
+PB_API void      sipsnRouteSetUri( SipsnRoute **route, SipsnUri *uri );
+/* ./dev lists: end */
 
 PB_API PbString *sipsnRouteDisplayName( SipsnRoute *route );
 PB_API bool      sipsnRouteHasDisplayName( SipsnRoute *route );

@@ -53,6 +53,13 @@
 
 #include "pb/pb_vector.h"
 
+/* URI( contact ) of SipsnContact declares what types with an IRI have; `contact` is what such an object is called:
+ *
+ *     SipsnUri *sipsnContactTryDecodeUri( SipsnContact *contact ); -- null when the IRI is not one that is read here
+ *     void      sipsnContactSetUri( SipsnContact **contact, SipsnUri *uri );
+ *
+ * They are sipsnUriTryDecode of the IRI and the setter of the IRI with sipsnUriEncode. Null aborts. */
+
 PB_BEGIN_DECLS
 
 /* ./dev lists: TYPE( SipsnUri ), see pb_types.h */

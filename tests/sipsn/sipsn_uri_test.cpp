@@ -3,7 +3,7 @@
 #include "header_text.h"
 #include "schema_text.h"
 
-#include "sipsn/sipsn_uri.h"
+#include "sipsn/sipsn_message_uri.h"
 
 namespace {
 
@@ -157,6 +157,46 @@ TEST( SipsnUri, TheSchemaTellsWhatIsNotWhole )
                           : sipsnSchemaTryDel( obj.Slot(), at ) );
         EXPECT_FALSE( sipsnSchemaComplete( obj.Get() ) );
     }
+}
+
+// ---- Types with an IRI -----------------------------------------------------------------------------
+
+TEST( SipsnUri, TypesWithAnIriGiveAndTakeIt )
+{
+    int        count = 0;
+    const auto uri   = Uri( "sip:b%c3%bc@xn--bcher-kva.example;lr" );
+    ForEveryDescribedType( [ & ]( const SipsnSchemaType *type ) {
+        const int64_t member = sipsnSchemaMemberIndex( type, "iri" );
+        if( member < 0 ) return;
+        ++count;
+        const auto tryDecode = Exported< SipsnUri *( PbObj * ) >( PrefixOf( type ) + "TryDecodeUri" );
+        const auto set       = Exported< void( PbObj **, SipsnUri       *) >( PrefixOf( type ) + "SetUri" );
+        ASSERT_TRUE( tryDecode && set );
+        const ObjPtr obj     = Filled( type, 0 );
+        ObjPtr       changed = Retained( obj.Get() );
+        set( changed.Slot(), uri.Get() );
+        EXPECT_EQ( SchemaValue( changed.Get(), member ).Text(), Iri( uri.Get() ) );
+        EXPECT_EQ( Iri( pb::Ref{ tryDecode( changed.Get() ) }.Get() ), Iri( uri.Get() ) );
+        EXPECT_EQ( Iri( pb::Ref{ tryDecode( obj.Get() ) }.Get() ), "sip:a" ) << "a shared object is copied";
+        TrySet( changed, member, { -1, StrObj( "sip:@" ) } );
+        EXPECT_EQ( tryDecode( changed.Get() ), nullptr );
+        EXPECT_THAT( AbortOf( [ & ] { set( changed.Slot(), nullptr ); } ), HasSubstr( "\"uri\"" ) );
+        EXPECT_NE( AbortOf( [ & ] { tryDecode( nullptr ); } ), "" );
+    } );
+    EXPECT_GE( count, 15 );
+}
+
+TEST( SipsnUri, RequestsGiveAndTakeIt )
+{
+    auto       msg = Message( "INVITE sip:a@h SIP/2.0\r\n\r\n" ), response = Message( "SIP/2.0 200 OK\r\n\r\n" );
+    const auto uri = Uri( "sip:h;lr" );
+    EXPECT_EQ( Iri( pb::Ref{ sipsnMessageTryDecodeRequestUri( msg.Get() ) }.Get() ), "sip:a@h" );
+    EXPECT_EQ( sipsnMessageTryDecodeRequestUri( response.Get() ), nullptr );
+    sipsnMessageSetRequestUri( msg.Slot(), uri.Get() );
+    EXPECT_EQ( Take( sipsnMessageRequestIri( msg.Get() ) ), "sip:h;lr" );
+    pb::Ref frag{ sipsnMessageFragmentTryDecode( Bytes( "INVITE sip:a@h SIP/2.0\r\n\r\n" ).Get() ) };
+    sipsnMessageFragmentSetRequestUri( frag.Slot(), uri.Get() );
+    EXPECT_EQ( Iri( pb::Ref{ sipsnMessageFragmentTryDecodeRequestUri( frag.Get() ) }.Get() ), "sip:h;lr" );
 }
 
 // ---- Equivalence -----------------------------------------------------------------------------------
