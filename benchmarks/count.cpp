@@ -1,6 +1,6 @@
 // Runs one operation on one message or value so many times and nothing else, to be counted from outside:
 //
-//     sipsn_count [hold-]decode|encode|full|reply|round-trip|stream FILE TIMES
+//     sipsn_count [hold-]decode|encode|full|typed|reply|round-trip|stream FILE TIMES
 //     sipsn_count [hold-]scan-value|decode-value|encode-value TYPE TIMES
 //
 // To hold is to release what was made only at the end, so that no memory is used again.
@@ -44,6 +44,7 @@ bool RunOnMessage( std::string_view operation, PbBuffer *wire, Runs runs )
     if( operation == "decode" ) return runs( [ & ] { return Decode( wire ); } );
     if( operation == "encode" ) return runs( [ & ] { return Encode( message.Get() ); } );
     if( operation == "full" ) return runs( [ & ] { return DecodeFull( wire ); } );
+    if( operation == "typed" ) return runs( [ & ] { return DecodeTyped( wire ); } );
     if( operation == "reply" && sipsnMessageIsRequest( message.Get() ) )
         return runs( [ & ] { return Reply( message.Get(), tag.Get() ); } );
     if( operation == "round-trip" ) return runs( [ & ] { return RoundTrip( wire ); } );
@@ -86,7 +87,7 @@ bool Run( std::string_view operation, std::string_view subject, int64_t times )
 int main( int argc, char **argv )
 {
     if( argc != 4 ) {
-        std::fputs( "sipsn_count [hold-]decode|encode|full|reply|round-trip|stream FILE TIMES\n"
+        std::fputs( "sipsn_count [hold-]decode|encode|full|typed|reply|round-trip|stream FILE TIMES\n"
                     "sipsn_count [hold-]scan-value|decode-value|encode-value TYPE TIMES\n",
                     stderr );
         return 2;

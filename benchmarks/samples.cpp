@@ -64,6 +64,31 @@ FullMessage DecodeFull( PbBuffer *wire )
     return full;
 }
 
+std::vector< pb::Ref< PbObj > > DecodeTyped( PbBuffer *wire )
+{
+    std::vector< pb::Ref< PbObj > > objects;
+    pb::Ref                         message{ sipsnMessageTryDecode( wire ) };
+    if( !message ) return objects;
+    pb::Ref headers{ sipsnMessageHeadersVector( message.Get() ) };
+    for( int64_t at = 0, count = pbVectorLength( headers.Get() ); at < count; ++at ) {
+        pb::Ref     field{ pbVectorAt( headers.Get(), at ) };
+        pb::Ref     name{ sipsnMessageHeaderName( sipsnMessageHeaderFrom( field.Get() ) ) };
+        const auto *family = sipsnSchemaFamilyByName( name.Get() );
+        if( !family ) continue;
+        pb::Ref hdr{ sipsnSchemaTryDecodeHeader( family, sipsnMessageHeaderFrom( field.Get() ) ) };
+        if( hdr && family->itemType ) {
+            pb::Ref items{ sipsnSchemaObject( hdr.Get(), 0 ) };
+            for( int64_t n = 0; n < pbVectorLength( pbVectorFrom( items.Get() ) ); ++n ) {
+                pb::Ref item{ pbVectorStringAt( pbVectorFrom( items.Get() ), n ) };
+                objects.emplace_back( sipsnSchemaTryDecode( family->itemType, item.Get() ) );
+            }
+        }
+        objects.push_back( std::move( hdr ) );
+    }
+    objects.emplace_back( sipsnMessageObj( message.Detach() ) );
+    return objects;
+}
+
 pb::Ref< PbBuffer > Reply( SipsnMessage *request, PbString *tag )
 {
     pb::Ref version{ sipsnMessageVersion( request ) };

@@ -49,6 +49,9 @@ struct FullMessage
 };
 FullMessage DecodeFull( PbBuffer *wire );
 
+// The message, each header field that has a type in it, and every value of their lists; none when it does not decode.
+std::vector< pb::Ref< PbObj > > DecodeTyped( PbBuffer *wire );
+
 // The encoded 200 (OK) to a request: Via, From, Call-Id, Cseq and Record-Route copied, To with a tag.
 pb::Ref< PbBuffer > Reply( SipsnMessage *request, PbString *tag );
 

@@ -2,6 +2,7 @@
 #include "sipsn_address.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Address )
@@ -29,3 +30,4 @@ SIPSN_CREATE_TEXT( Address, iri, sipsnIriOk )
 SIPSN_TEXT( Address, address, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( Address, address, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_PARAMS( Address, address )
+SIPSN_DEFINE_URI( Address, address )

@@ -16,6 +16,7 @@
 #include "sipsn_display_name.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -52,6 +53,11 @@ PB_API void      sipsnAddressDelDisplayName( SipsnAddress **address );
 
 PB_API SipsnGenericParams *sipsnAddressGenericParams( SipsnAddress *address );
 PB_API void                sipsnAddressSetGenericParams( SipsnAddress **address, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( address ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnAddressTryDecodeUri( SipsnAddress *address );
+PB_API void      sipsnAddressSetUri( SipsnAddress **address, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -2,6 +2,7 @@
 #include "sipsn_geolocation.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( Geolocation )
@@ -29,3 +30,4 @@ SIPSN_CREATE_TEXT( Geolocation, iri, sipsnIriOk )
 SIPSN_TEXT( Geolocation, location, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( Geolocation, location, LocSrc, locSrc, sipsnHostOk )
 SIPSN_PARAMS( Geolocation, location )
+SIPSN_DEFINE_URI( Geolocation, location )

@@ -17,6 +17,7 @@
 #include "sipsn_host.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -53,6 +54,11 @@ PB_API void      sipsnGeolocationDelLocSrc( SipsnGeolocation **location );
 
 PB_API SipsnGenericParams *sipsnGeolocationGenericParams( SipsnGeolocation *location );
 PB_API void sipsnGeolocationSetGenericParams( SipsnGeolocation **location, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( location ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnGeolocationTryDecodeUri( SipsnGeolocation *location );
+PB_API void      sipsnGeolocationSetUri( SipsnGeolocation **location, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

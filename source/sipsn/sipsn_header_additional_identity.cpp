@@ -2,6 +2,7 @@
 #include "sipsn_header_additional_identity.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderAdditionalIdentity
 {
@@ -26,3 +27,4 @@ SIPSN_CREATE_TEXT( HeaderAdditionalIdentity, iri, sipsnIriOk )
 SIPSN_TEXT( HeaderAdditionalIdentity, hdr, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( HeaderAdditionalIdentity, hdr, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_PARAMS( HeaderAdditionalIdentity, hdr )
+SIPSN_DEFINE_URI( HeaderAdditionalIdentity, hdr )

@@ -19,6 +19,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -70,6 +71,11 @@ PB_API void sipsnHeaderAdditionalIdentityDelDisplayName( SipsnHeaderAdditionalId
 PB_API SipsnGenericParams *sipsnHeaderAdditionalIdentityGenericParams( SipsnHeaderAdditionalIdentity *hdr );
 PB_API void                sipsnHeaderAdditionalIdentitySetGenericParams( SipsnHeaderAdditionalIdentity **hdr,
                                                                           SipsnGenericParams             *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderAdditionalIdentityTryDecodeUri( SipsnHeaderAdditionalIdentity *hdr );
+PB_API void      sipsnHeaderAdditionalIdentitySetUri( SipsnHeaderAdditionalIdentity **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -2,6 +2,7 @@
 #include "sipsn_header_p_charge_info.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPChargeInfo
 {
@@ -26,3 +27,4 @@ SIPSN_CREATE_TEXT( HeaderPChargeInfo, iri, sipsnIriOk )
 SIPSN_TEXT( HeaderPChargeInfo, hdr, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( HeaderPChargeInfo, hdr, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_PARAMS( HeaderPChargeInfo, hdr )
+SIPSN_DEFINE_URI( HeaderPChargeInfo, hdr )

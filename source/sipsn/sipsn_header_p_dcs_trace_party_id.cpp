@@ -2,6 +2,7 @@
 #include "sipsn_header_p_dcs_trace_party_id.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPDcsTracePartyId
 {
@@ -29,3 +30,4 @@ SIPSN_TEXT( HeaderPDcsTracePartyId, hdr, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( HeaderPDcsTracePartyId, hdr, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_OPTIONAL_TEXT( HeaderPDcsTracePartyId, hdr, Timestamp, timestamp, sipsnTokenOk )
 SIPSN_PARAMS( HeaderPDcsTracePartyId, hdr )
+SIPSN_DEFINE_URI( HeaderPDcsTracePartyId, hdr )

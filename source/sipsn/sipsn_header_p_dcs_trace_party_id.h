@@ -19,6 +19,7 @@
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
 #include "sipsn_token.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -77,6 +78,11 @@ PB_API void sipsnHeaderPDcsTracePartyIdDelTimestamp( SipsnHeaderPDcsTracePartyId
 PB_API SipsnGenericParams *sipsnHeaderPDcsTracePartyIdGenericParams( SipsnHeaderPDcsTracePartyId *hdr );
 PB_API void                sipsnHeaderPDcsTracePartyIdSetGenericParams( SipsnHeaderPDcsTracePartyId **hdr,
                                                                         SipsnGenericParams           *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderPDcsTracePartyIdTryDecodeUri( SipsnHeaderPDcsTracePartyId *hdr );
+PB_API void      sipsnHeaderPDcsTracePartyIdSetUri( SipsnHeaderPDcsTracePartyId **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

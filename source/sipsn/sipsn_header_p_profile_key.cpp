@@ -2,6 +2,7 @@
 #include "sipsn_header_p_profile_key.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPProfileKey
 {
@@ -26,3 +27,4 @@ SIPSN_CREATE_TEXT( HeaderPProfileKey, iri, sipsnIriOk )
 SIPSN_TEXT( HeaderPProfileKey, hdr, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( HeaderPProfileKey, hdr, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_PARAMS( HeaderPProfileKey, hdr )
+SIPSN_DEFINE_URI( HeaderPProfileKey, hdr )

@@ -17,6 +17,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -64,6 +65,11 @@ PB_API void      sipsnHeaderPProfileKeyDelDisplayName( SipsnHeaderPProfileKey **
 
 PB_API SipsnGenericParams *sipsnHeaderPProfileKeyGenericParams( SipsnHeaderPProfileKey *hdr );
 PB_API void sipsnHeaderPProfileKeySetGenericParams( SipsnHeaderPProfileKey **hdr, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderPProfileKeyTryDecodeUri( SipsnHeaderPProfileKey *hdr );
+PB_API void      sipsnHeaderPProfileKeySetUri( SipsnHeaderPProfileKey **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -2,6 +2,7 @@
 #include "sipsn_header_p_served_user.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPServedUser
 {
@@ -35,3 +36,4 @@ SIPSN_OPTIONAL_TEXT( HeaderPServedUser, hdr, Sescase, sescase, sipsnTokenOk )
 SIPSN_OPTIONAL_TEXT( HeaderPServedUser, hdr, Regstate, regstate, sipsnTokenOk )
 SIPSN_FLAG( HeaderPServedUser, hdr, OrigCdiv, origCdiv )
 SIPSN_PARAMS( HeaderPServedUser, hdr )
+SIPSN_DEFINE_URI( HeaderPServedUser, hdr )

@@ -23,6 +23,7 @@
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
 #include "sipsn_token.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -89,6 +90,11 @@ PB_API void sipsnHeaderPServedUserSetOrigCdiv( SipsnHeaderPServedUser **hdr, boo
 
 PB_API SipsnGenericParams *sipsnHeaderPServedUserGenericParams( SipsnHeaderPServedUser *hdr );
 PB_API void sipsnHeaderPServedUserSetGenericParams( SipsnHeaderPServedUser **hdr, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderPServedUserTryDecodeUri( SipsnHeaderPServedUser *hdr );
+PB_API void      sipsnHeaderPServedUserSetUri( SipsnHeaderPServedUser **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -2,6 +2,7 @@
 #include "sipsn_header_p_user_database.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderPUserDatabase
 {
@@ -23,3 +24,4 @@ SIPSN_SINGLE_HEADER( PUserDatabase, "P-User-Database", SIPSN_HEADER_P_USER_DATAB
 SIPSN_CREATE_TEXT( HeaderPUserDatabase, iri, sipsnIriOk )
 SIPSN_TEXT( HeaderPUserDatabase, hdr, Iri, iri, sipsnIriOk )
 SIPSN_PARAMS( HeaderPUserDatabase, hdr )
+SIPSN_DEFINE_URI( HeaderPUserDatabase, hdr )

@@ -16,6 +16,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -55,6 +56,11 @@ PB_API void sipsnHeaderPUserDatabaseSetIriWcstr( SipsnHeaderPUserDatabase **hdr,
 PB_API SipsnGenericParams *sipsnHeaderPUserDatabaseGenericParams( SipsnHeaderPUserDatabase *hdr );
 PB_API void                sipsnHeaderPUserDatabaseSetGenericParams( SipsnHeaderPUserDatabase **hdr,
                                                                      SipsnGenericParams        *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderPUserDatabaseTryDecodeUri( SipsnHeaderPUserDatabase *hdr );
+PB_API void      sipsnHeaderPUserDatabaseSetUri( SipsnHeaderPUserDatabase **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -2,6 +2,7 @@
 #include "sipsn_header_refer_events_at.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_uri_member.h"
 
 struct SipsnHeaderReferEventsAt
 {
@@ -23,3 +24,4 @@ SIPSN_SINGLE_HEADER( ReferEventsAt, "Refer-Events-At", SIPSN_HEADER_REFER_EVENTS
 SIPSN_CREATE_TEXT( HeaderReferEventsAt, iri, sipsnIriOk )
 SIPSN_TEXT( HeaderReferEventsAt, hdr, Iri, iri, sipsnIriOk )
 SIPSN_PARAMS( HeaderReferEventsAt, hdr )
+SIPSN_DEFINE_URI( HeaderReferEventsAt, hdr )

@@ -15,6 +15,7 @@
 #include "sipsn_header.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -54,6 +55,11 @@ PB_API void sipsnHeaderReferEventsAtSetIriWcstr( SipsnHeaderReferEventsAt **hdr,
 PB_API SipsnGenericParams *sipsnHeaderReferEventsAtGenericParams( SipsnHeaderReferEventsAt *hdr );
 PB_API void                sipsnHeaderReferEventsAtSetGenericParams( SipsnHeaderReferEventsAt **hdr,
                                                                      SipsnGenericParams        *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( hdr ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnHeaderReferEventsAtTryDecodeUri( SipsnHeaderReferEventsAt *hdr );
+PB_API void      sipsnHeaderReferEventsAtSetUri( SipsnHeaderReferEventsAt **hdr, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

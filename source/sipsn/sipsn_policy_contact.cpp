@@ -2,6 +2,7 @@
 #include "sipsn_policy_contact.h"
 
 #include "sipsn_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( PolicyContact )
@@ -32,3 +33,4 @@ SIPSN_TEXT( PolicyContact, contact, Iri, iri, sipsnIriOk )
 SIPSN_FLAG( PolicyContact, contact, NonCacheable, nonCacheable )
 SIPSN_OPTIONAL_TEXT( PolicyContact, contact, AltUri, altUri, sipsnHostOk )
 SIPSN_PARAMS( PolicyContact, contact )
+SIPSN_DEFINE_URI( PolicyContact, contact )

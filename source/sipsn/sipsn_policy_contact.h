@@ -18,6 +18,7 @@
 #include "sipsn_host.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -57,6 +58,11 @@ PB_API void sipsnPolicyContactDelAltUri( SipsnPolicyContact **contact );
 
 PB_API SipsnGenericParams *sipsnPolicyContactGenericParams( SipsnPolicyContact *contact );
 PB_API void sipsnPolicyContactSetGenericParams( SipsnPolicyContact **contact, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( contact ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnPolicyContactTryDecodeUri( SipsnPolicyContact *contact );
+PB_API void      sipsnPolicyContactSetUri( SipsnPolicyContact **contact, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

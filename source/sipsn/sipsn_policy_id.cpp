@@ -30,3 +30,14 @@ SIPSN_CREATE_TEXT( PolicyId, iri, sipsnBareIriOk )
 SIPSN_TEXT( PolicyId, id, Iri, iri, sipsnBareIriOk )
 SIPSN_OPTIONAL_TEXT( PolicyId, id, Token, token, sipsnTokenOk )
 SIPSN_PARAMS( PolicyId, id )
+
+SipsnUri *sipsnPolicyIdTryDecodeUri( SipsnPolicyId *id )
+{
+    PB_ASSERT( id );
+    return sipsnUriTryDecode( id->iri );
+}
+void sipsnPolicyIdSetUri( SipsnPolicyId **id, SipsnUri *uri )
+{
+    PB_ASSERT( uri );
+    sipsnPolicyIdSetIri( id, pb::Ref{ sipsnUriEncode( uri ) }.Get() );
+}

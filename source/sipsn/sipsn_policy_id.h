@@ -8,14 +8,16 @@
  *     token            a token of the policy server, kept as written; optional
  *     generic params   every other parameter; never absent, may be empty
  *
- * An IRI that holds ";", "?" or "," cannot stand here: what follows the first of them is not its own. A decoded
- * parameter whose value does not fit its member is kept as a generic one. Values compare in the order above. */
+ * An IRI that holds ";", "?" or "," cannot stand here: what follows the first of them is not its own. SetUri aborts for
+ * one. A decoded parameter whose value does not fit its member is kept as a generic one. Values compare in the order
+ * above. */
 #ifndef SIPSN_POLICY_ID_H
 #define SIPSN_POLICY_ID_H
 
 #include "sipsn_bare_iri.h"
 #include "sipsn_member.h"
 #include "sipsn_token.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -52,6 +54,11 @@ PB_API void      sipsnPolicyIdDelToken( SipsnPolicyId **id );
 
 PB_API SipsnGenericParams *sipsnPolicyIdGenericParams( SipsnPolicyId *id );
 PB_API void                sipsnPolicyIdSetGenericParams( SipsnPolicyId **id, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( id ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnPolicyIdTryDecodeUri( SipsnPolicyId *id );
+PB_API void      sipsnPolicyIdSetUri( SipsnPolicyId **id, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

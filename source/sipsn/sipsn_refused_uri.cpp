@@ -3,6 +3,7 @@
 
 #include "sipsn_rules.h"
 #include "sipsn_text_rules.h"
+#include "sipsn_uri_member.h"
 #include "sipsn_value_internal.h"
 
 SIPSN_DECLARE_TEXT( RefusedUri )
@@ -33,3 +34,4 @@ SIPSN_TEXT( RefusedUri, refused, Iri, iri, sipsnIriOk )
 SIPSN_OPTIONAL_TEXT( RefusedUri, refused, DisplayName, displayName, sipsnDisplayNameOk )
 SIPSN_OPTIONAL_TEXT( RefusedUri, refused, Members, members, sipsnIriOk )
 SIPSN_PARAMS( RefusedUri, refused )
+SIPSN_DEFINE_URI( RefusedUri, refused )

@@ -18,6 +18,7 @@
 #include "sipsn_display_name.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -61,6 +62,11 @@ PB_API void      sipsnRefusedUriDelMembers( SipsnRefusedUri **refused );
 
 PB_API SipsnGenericParams *sipsnRefusedUriGenericParams( SipsnRefusedUri *refused );
 PB_API void sipsnRefusedUriSetGenericParams( SipsnRefusedUri **refused, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( refused ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnRefusedUriTryDecodeUri( SipsnRefusedUri *refused );
+PB_API void      sipsnRefusedUriSetUri( SipsnRefusedUri **refused, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

@@ -30,3 +30,14 @@ SIPSN_CREATE_TEXT( TriggerConsent, iri, sipsnBareIriOk )
 SIPSN_TEXT( TriggerConsent, trigger, Iri, iri, sipsnBareIriOk )
 SIPSN_OPTIONAL_TEXT( TriggerConsent, trigger, TargetUri, targetUri, sipsnIriOk )
 SIPSN_PARAMS( TriggerConsent, trigger )
+
+SipsnUri *sipsnTriggerConsentTryDecodeUri( SipsnTriggerConsent *trigger )
+{
+    PB_ASSERT( trigger );
+    return sipsnUriTryDecode( trigger->iri );
+}
+void sipsnTriggerConsentSetUri( SipsnTriggerConsent **trigger, SipsnUri *uri )
+{
+    PB_ASSERT( uri );
+    sipsnTriggerConsentSetIri( trigger, pb::Ref{ sipsnUriEncode( uri ) }.Get() );
+}

@@ -8,14 +8,16 @@
  *     target uri       whom consent is asked of, an IRI, quoted on the wire; optional
  *     generic params   every other parameter; never absent, may be empty
  *
- * An IRI that holds ";", "?" or "," cannot stand here: what follows the first of them is not its own. A decoded
- * parameter whose value does not fit its member is kept as a generic one. Values compare in the order above. */
+ * An IRI that holds ";", "?" or "," cannot stand here: what follows the first of them is not its own. SetUri aborts for
+ * one. A decoded parameter whose value does not fit its member is kept as a generic one. Values compare in the order
+ * above. */
 #ifndef SIPSN_TRIGGER_CONSENT_H
 #define SIPSN_TRIGGER_CONSENT_H
 
 #include "sipsn_bare_iri.h"
 #include "sipsn_iri.h"
 #include "sipsn_member.h"
+#include "sipsn_uri.h"
 
 PB_BEGIN_DECLS
 
@@ -53,6 +55,11 @@ PB_API void sipsnTriggerConsentDelTargetUri( SipsnTriggerConsent **trigger );
 
 PB_API SipsnGenericParams *sipsnTriggerConsentGenericParams( SipsnTriggerConsent *trigger );
 PB_API void sipsnTriggerConsentSetGenericParams( SipsnTriggerConsent **trigger, SipsnGenericParams *genericParams );
+/* ./dev lists: end */
+
+/* ./dev lists: URI( trigger ), see sipsn_uri.h */
+PB_API SipsnUri *sipsnTriggerConsentTryDecodeUri( SipsnTriggerConsent *trigger );
+PB_API void      sipsnTriggerConsentSetUri( SipsnTriggerConsent **trigger, SipsnUri *uri );
 /* ./dev lists: end */
 
 PB_END_DECLS

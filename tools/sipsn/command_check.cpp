@@ -18,8 +18,11 @@ read is not looked at, as nobody can know where it begins.
 A message is ok when a stream decoder reads it; "ok as a datagram" is one that only lacks the Content-Length that a stream needs,
 and that reaches to the end of its file. The last line, on standard error, counts messages.
 
+A comma in a URI that no angle brackets enclose gets a warning: to others it begins another address (RFC 3261 20.10). The message
+is ok all the same.
+
 JSON is a line for each finding: "file", "line", "column" and "offset" of the place, "header" when it is in the value of a
-header field (else null), "reason" and "text".
+header field (else null), "reason" and "text"; "warning" is true in one that does not make the message bad.
 
 Examples:
   sipsn check invite.sip
@@ -38,16 +41,19 @@ struct Tally
     int64_t messages = 0, bad = 0, badFields = 0;
 };
 
-void PrintFinding( const Input &input, const Finding &finding, const Options &options )
+// JSON says of a warning that it is one.
+void PrintFinding( const Input &input, const Finding &finding, const Options &options, bool isWarning = false )
 {
     if( !options.json ) return Print( DescribeFinding( input, finding, OutputIsTerminal() ) );
-    PrintJsonLine( { { "file", input.name },
-                     { "line", finding.place.line },
-                     { "column", finding.place.column },
-                     { "offset", finding.place.offset },
-                     { "header", finding.header.empty() ? Json() : Json( finding.header ) },
-                     { "reason", finding.reason },
-                     { "text", finding.text } } );
+    Json line( { { "file", input.name },
+                 { "line", finding.place.line },
+                 { "column", finding.place.column },
+                 { "offset", finding.place.offset },
+                 { "header", finding.header.empty() ? Json() : Json( finding.header ) },
+                 { "reason", finding.reason },
+                 { "text", finding.text } } );
+    if( isWarning ) line[ "warning" ] = true;
+    PrintJsonLine( line );
 }
 
 // `onlyOne` in its file, a good message needs no line.
@@ -60,6 +66,11 @@ void CheckMessage( const Input &input, const FoundMessage &found, bool onlyOne, 
     if( found.fault.kind != SIPSN_FAULT_NONE && !onlyDatagram ) findings.push_back( FindingOf( input, found.fault ) );
 
     for( const Finding &finding : findings ) PrintFinding( input, finding, options );
+    if( found.message )
+        for( Finding warning : FindBareCommas( input, found ) ) {
+            warning.reason = "warning: " + warning.reason;
+            PrintFinding( input, warning, options, true );
+        }
     ++tally.messages;
     tally.bad += !findings.empty();
     if( findings.empty() && !options.json )

@@ -113,6 +113,39 @@ void AddFindings( std::vector< Finding > &findings, const Input &input, const Si
         findings.push_back( { places[ at ], 0, family.name, parts[ at ].reason, parts[ at ].text } );
 }
 
+// The comma in the URI of an item, where no angle bracket encloses it.
+void AddBareComma( std::vector< BadPart > &parts, PbObj *item, PbString *line, const Owned< PbString > &text )
+{
+    const int64_t member = item ? sipsnSchemaMemberIndex( sipsnSchemaTypeOf( item ), "iri" ) : -1;
+    if( member < 0 || Utf8( text ).find( '<' ) != std::string::npos ) return;
+    const Owned< PbString > iri{ pbStringFrom( sipsnSchemaObject( item, member ) ) };
+    if( Utf8( iri ).find( ',' ) == std::string::npos ) return;
+    const PbChar *chs = pbStringBacking( line ), *end = chs + pbStringLength( line );
+    const PbChar *uri = std::search( chs, end, pbStringBacking( text.Get() ),
+                                     pbStringBacking( text.Get() ) + pbStringLength( text.Get() ) );
+    parts.push_back( { std::find( uri, end, PbChar{ ',' } ) - chs, Utf8( text ),
+                       "this comma is part of the URI here, and ends it elsewhere: write the URI in angle brackets" } );
+}
+
+void AddBareCommas( std::vector< Finding > &findings, const Input &input, const SipsnSchemaFamily &family,
+                    SipsnMessageHeader *header, const std::vector< SipsnFieldPlace > &fields )
+{
+    for( size_t at = 0; at < fields.size(); ++at ) {
+        const Owned< PbString > line{ sipsnMessageHeaderLineAt( header, int64_t( at ) ) };
+        const Owned< PbObj > typed = TryDecode( family, WithLines( header, int64_t( at ), int64_t( at ) + 1 ).Get() );
+        if( !typed ) continue;
+        std::vector< BadPart >  parts;
+        const Owned< PbVector > items = ItemsOf( family, typed.Get() );
+        if( !family.itemType ) AddBareComma( parts, typed.Get(), line.Get(), line );
+        for( int64_t index = 0; items && index < pbVectorLength( items.Get() ); ++index ) {
+            const Owned< PbString > text{ pbVectorStringAt( items.Get(), index ) };
+            const Owned< PbObj >    item{ sipsnSchemaTryDecode( family.itemType, text.Get() ) };
+            AddBareComma( parts, item.Get(), line.Get(), text );
+        }
+        AddFindings( findings, input, family, fields[ at ], parts );
+    }
+}
+
 // Each of `fields` is a line of the header field.
 void AddBadFields( std::vector< Finding > &findings, const Input &input, const SipsnSchemaFamily &family,
                    SipsnMessageHeader *header, const std::vector< SipsnFieldPlace > &fields )
@@ -195,7 +228,8 @@ Finding FindingOf( const Input &input, const SipsnFault &fault )
              std::string( LineAround( Bytes( input.buffer.Get() ), size_t( fault.place.offset ) ) ) };
 }
 
-std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &found )
+// Calls add( findings, input, family, header, fields ) for each header field of a message that has a type.
+template< class Add > std::vector< Finding > FindInFields( const Input &input, const FoundMessage &found, Add add )
 {
     std::map< std::string, std::vector< SipsnFieldPlace > > places;
     for( SipsnFieldPlace field{}; sipsnMessagePlaceNextField( input.buffer.Get(), &found.place, &field ); )
@@ -206,11 +240,21 @@ std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &fo
         const Owned< SipsnMessageHeader > header{ sipsnMessageHeaderCstr( found.message.Get(), name.c_str(), -1 ) };
         const Owned< PbString >           canonical{ sipsnMessageHeaderName( header.Get() ) };
         if( const SipsnSchemaFamily *family = sipsnSchemaFamilyByName( canonical.Get() ) )
-            AddBadFields( findings, input, *family, header.Get(), fields );
+            add( findings, input, *family, header.Get(), fields );
     }
     std::stable_sort( findings.begin(), findings.end(),
                       []( const Finding &a, const Finding &b ) { return a.place.offset < b.place.offset; } );
     return findings;
+}
+
+std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &found )
+{
+    return FindInFields( input, found, AddBadFields );
+}
+
+std::vector< Finding > FindBareCommas( const Input &input, const FoundMessage &found )
+{
+    return FindInFields( input, found, AddBareCommas );
 }
 
 std::string DescribeFinding( const Input &input, const Finding &finding, bool onTerminal )

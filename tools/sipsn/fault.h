@@ -25,6 +25,10 @@ Finding FindingOf( const Input &input, const SipsnFault &fault );
 // The header fields of a message that decodes which have a type and do not decode, in the order of the file.
 std::vector< Finding > FindBadFields( const Input &input, const FoundMessage &found );
 
+// Addresses that decode, but that a neighbour may take for two: a comma in a URI without angle brackets (RFC 3261
+// section 20.10).
+std::vector< Finding > FindBareCommas( const Input &input, const FoundMessage &found );
+
 // "FILE:LINE:COLUMN: Via: reason" with the text in quotes, fit to be printed; for a terminal the line of the file is
 // shown below instead, with a mark under the place.
 std::string DescribeFinding( const Input &input, const Finding &finding, bool onTerminal );
