@@ -61,7 +61,7 @@ def per_operation(program, operation, message):
 
 def value_types():
     text = (ROOT / "benchmarks/values.cpp").read_text()
-    return re.findall(r"^    VALUE\( (\w+),", text, re.MULTILINE)
+    return re.findall(r"^    VALUE(?:_BY\( \w+,|\() (\w+),", text, re.MULTILINE)
 
 
 def print_values(program):

@@ -21,25 +21,24 @@ bool sipsnHostOk( PbString *host )
     return sipsn::Matches( host, sipsn___SkipHost ) || TryToAscii( host );
 }
 
-// Whether this is a name in letters, digits and hyphens as nearly every host is: one that the grammar and IDNA accept
-// and that neither of them changes. What is not may still be a host.
-static bool IsPlainName( const PbChar *chs, int64_t length )
+// Label by label: none begins or ends with a hyphen, and two in third and fourth place may be those of "xn--".
+int64_t sipsn::SkipPlainName( const PbChar *chs, int64_t length )
 {
     constexpr int64_t maxName = 253, maxLabel = 63;
-    if( length == 0 || length > maxName ) return false;
-    int64_t labelBegin = 0;
-    for( int64_t at = 0; at <= length; ++at ) {
-        if( at < length && sipsn::Is( chs[ at ], sipsn::Alphanum ) ) continue;
-        if( at < length && chs[ at ] == '-' ) {
-            // No label begins with one, and two in third and fourth place may be those of "xn--".
-            if( at == labelBegin || ( at == labelBegin + 3 && chs[ at - 1 ] == '-' ) ) return false;
-            continue;
-        }
-        if( at < length && chs[ at ] != '.' ) return false;
-        if( at == labelBegin || at - labelBegin > maxLabel || chs[ at - 1 ] == '-' ) return false;
-        labelBegin = at + 1;
+    for( int64_t begin = 0;; ) {
+        const PbChar *label = chs + begin;
+        const int64_t run   = pb::CountRun< true >( charClasses, Alphanum | Hyphen, label, length - begin );
+        if( run == 0 || run > maxLabel || label[ 0 ] == '-' || label[ run - 1 ] == '-' ) return 0;
+        if( run >= 4 && label[ 2 ] == '-' && label[ 3 ] == '-' ) return 0;
+        begin += run;
+        if( begin == length || chs[ begin ] != '.' ) return begin <= maxName ? begin : 0;
+        ++begin;
     }
-    return true;
+}
+
+static bool IsPlainName( const PbChar *chs, int64_t length )
+{
+    return length > 0 && sipsn::SkipPlainName( chs, length ) == length;
 }
 
 PbString *sipsn___HostTryDecode( const PbChar *chs, int64_t length )

@@ -69,4 +69,8 @@ namespace sipsn {
 PbString *Unquote( const PbChar *chs, int64_t length );
 PbString *DisplayNameOf( const PbChar *chs, int64_t length );
 
+// The name in letters, digits and hyphens, as nearly every host is, at the start of a text: one that the grammar and
+// IDNA accept and that neither of them changes. 0 when there is none; what begins otherwise may still be a host.
+int64_t SkipPlainName( const PbChar *chs, int64_t length );
+
 } // namespace sipsn

@@ -28,7 +28,7 @@ static constexpr TextRule uriPassword{
     .words = "a password", .ok = sipsnUriPasswordOk, .production = nullptr, .normal = KeepText };
 static constexpr TextRule uriHost{ .words      = "a host",
                                    .ok         = sipsnUriHostOk,
-                                   .production = uri::SkipHost,
+                                   .production = nullptr,
                                    .decoded    = KeepHostChars,
                                    .normal     = KeepHost,
                                    .encoded    = sipsn___HostEncode };
@@ -37,8 +37,8 @@ static constexpr TextRule uriNumber{
 static constexpr TextRule uriToken{ .words = "a token", .ok = sipsnUriTokenOk, .production = uri::SkipToken };
 static constexpr TextRule uriLowerToken{ .words      = "a token",
                                          .ok         = sipsnUriTokenOk,
-                                         .production = uri::SkipToken,
-                                         .decoded    = LowerFromChars,
+                                         .production = nullptr,
+                                         .decoded    = uri::TryLowerToken,
                                          .normal     = ToLower };
 static constexpr IntRule  uriTtl{ .words      = "a ttl",
                                   .ok         = sipsnTtlOk,
@@ -238,6 +238,9 @@ struct Param
     int64_t SipsnUri::*number = nullptr;
     bool SipsnUri::*flag      = nullptr;
     bool            lenient   = false; // whether a flag is taken with any value
+
+    // Values of these are kept as they are, nearly always.
+    constexpr bool IsLowerToken() const { return rule == &sipsn::rule::uriLowerToken; }
 };
 
 // In the order in which they are written (RFC 3966 section 3: isub or ext, then phone-context, then by name).
@@ -261,24 +264,37 @@ constexpr Param params[] = {
     { "trunk-context", &SipsnUri::trunkContext, &sipsn::rule::context },
 };
 
-// By the first letter of a name, one bit for each parameter.
-constexpr auto paramsByLetter = [] {
-    std::array< uint32_t, 26 > bits{};
-    for( size_t n = 0; n < std::size( params ); ++n ) bits[ size_t( params[ n ].name[ 0 ] - 'a' ) ] |= 1u << n;
-    return bits;
+// One bit for each parameter, by the length of a name and by its first letter. Together they leave one at most.
+struct ParamIndex
+{
+    std::array< uint32_t, 16 > byLength{};
+    std::array< uint32_t, 32 > byLetter{};
+};
+constexpr ParamIndex paramIndex = [] {
+    ParamIndex index{};
+    for( size_t n = 0; n < std::size( params ); ++n ) {
+        index.byLength[ params[ n ].name.size() ] |= 1u << n;
+        index.byLetter[ params[ n ].name[ 0 ] & 31 ] |= 1u << n;
+    }
+    return index;
 }();
+
+// The bit of lower case is set in letters, and it changes nothing else that a name consists of.
+bool IsNamed( const PbChar *name, std::string_view wanted )
+{
+    for( const char ch : wanted )
+        if( ( *name++ | 0x20 ) != ch ) return false;
+    return true;
+}
 
 // The number of the parameter in the table; -1 for a name that is not there.
 int FindParam( pb::Text name )
 {
-    const PbChar letter = pb::AsciiLower( name[ 0 ] ) - 'a';
-    if( letter < 0 || letter >= 26 ) return -1;
-    for( uint32_t bits = paramsByLetter[ size_t( letter ) ]; bits; bits &= bits - 1 ) {
-        const int n = __builtin_ctz( bits );
-        if( int64_t( params[ n ].name.size() ) == name.length && pb::StartsWithKeyword( name, params[ n ].name ) )
-            return n;
-    }
-    return -1;
+    if( name.length >= int64_t( paramIndex.byLength.size() ) ) return -1;
+    const uint32_t bits = paramIndex.byLength[ size_t( name.length ) ] & paramIndex.byLetter[ name[ 0 ] & 31 ];
+    if( !bits ) return -1;
+    const int n = __builtin_ctz( bits );
+    return IsNamed( name.chs, params[ n ].name ) ? n : -1;
 }
 
 bool IsPresent( const SipsnUri &uri, const Param &param )
@@ -295,7 +311,8 @@ bool TrySetParam( SipsnUri &uri, const Param &param, pb::Text value )
         uri.*param.number = value.length <= 3 ? sipsn::DecodeInt( value.chs, value.length, 255 ) : -1;
         return uri.*param.number >= 0;
     }
-    if( param.rule->production( value.chs, value.length ) != value.length ) return false;
+    const auto production = param.rule->production; // null where decoding tells
+    if( production && production( value.chs, value.length ) != value.length ) return false;
     pb::Set( uri.*param.text, param.rule->decoded( value.chs, value.length ) );
     return uri.*param.text;
 }
@@ -933,11 +950,14 @@ private:
     template< class Link > static bool TakeAuthority( BasicCursor< Link > &in, SipsnUri &uri )
     {
         if( !TakeUser( in, uri ) ) return false;
-        uri.host = TryTake( in, sipsn::rule::uriHost );
-        if( !uri.host ) return false;
+        int64_t    plain = 0;
+        const Span host  = in.Take( sipsn::uri::SkipHost, plain, "a host" );
+        if( !host ) return false;
+        uri.host = plain ? host.ToString() : sipsn::uri::TryKeepHost( host.chs, host.length );
+        if( !uri.host ) return in.Refuse( host, "a host" );
         if( !in.Take( PbChar{ ':' } ) ) return true;
-        uri.port = TryTake( in, sipsn::rule::port );
-        return uri.port >= 0;
+        const Span port = in.Take( sipsn::uri::SkipPort, uri.port, "a port" );
+        return port && ( uri.port >= 0 || in.Refuse( port, "a port" ) );
     }
 
     template< class Link > static bool TakeNumber( BasicCursor< Link > &in, SipsnUri &uri )
@@ -949,36 +969,46 @@ private:
     }
 
     // *( ";" name [ "=" value ] )
-    template< class Link > static bool TakeParams( BasicCursor< Link > &in, SipsnUri &uri )
+    template< class Link > static bool TakeParams( BasicCursor< Link > &from, SipsnUri &uri )
     {
-        uint32_t taken = 0; // of the members
+        BasicCursor< Link > in    = from; // by itself it may stay in registers
+        uint32_t            taken = 0;    // of the members
         while( in.Take( PbChar{ ';' } ) ) {
             int64_t    nameChanges = 0, valueChanges = 0;
             Span       all  = in.Rest();
             const Span name = TakePart( in, sipsn::uri::SkipParamPart, nameChanges, "a parameter" );
             Span       value;
             if( !name ) return false;
-            if( in.Take( PbChar{ '=' } ) &&
-                !( value = TakePart( in, sipsn::uri::SkipParamPart, valueChanges, "a value" ) ) )
+            const int  member = FindParam( { name.chs, name.length } );
+            const bool valued = bool( in.Take( PbChar{ '=' } ) );
+            if( valued && member >= 0 && params[ member ].IsLowerToken() && !( taken >> member & 1 ) &&
+                ( value = in.Take( sipsn::uri::SkipLowerToken, "a value" ) ) ) {
+                uri.*params[ member ].text = value.ToString();
+                taken |= 1u << member;
+                continue;
+            }
+            if( valued && !( value = TakePart( in, sipsn::uri::SkipParamPart, valueChanges, "a value" ) ) )
                 return false;
             all.length = in.Rest().chs - all.chs;
             if( nameChanges + valueChanges == 0 ) {
-                if( !KeepParam( in, uri, taken, { name.chs, name.length }, { value.chs, value.length }, all ) )
+                if( !KeepParam( in, uri, taken, member, { name.chs, name.length }, { value.chs, value.length }, all ) )
                     return false;
                 continue;
             }
-            pb::Ref kept{ sipsn::uri::Keep( all.chs, all.length ) };
-            if( !KeepParam( in, uri, taken, NameOf( kept.Get() ), ValueOf( kept.Get() ), all ) ) return false;
+            pb::Ref        kept{ sipsn::uri::Keep( all.chs, all.length ) };
+            const pb::Text keptName = NameOf( kept.Get() );
+            if( !KeepParam( in, uri, taken, FindParam( keptName ), keptName, ValueOf( kept.Get() ), all ) )
+                return false;
         }
+        from = in;
         return NamesDiffer( uri.otherParams ) || in.Lacks( "parameters of different names" );
     }
 
     // Into its member, or among the other ones.
     template< class Link >
-    static bool KeepParam( BasicCursor< Link > &in, SipsnUri &uri, uint32_t &taken, pb::Text name, pb::Text value,
-                           Span all )
+    static bool KeepParam( BasicCursor< Link > &in, SipsnUri &uri, uint32_t &taken, int member, pb::Text name,
+                           pb::Text value, Span all )
     {
-        const int member = FindParam( name );
         if( member >= 0 ) {
             const uint32_t bit = 1u << member;
             if( taken & bit ) return in.Refuse( all, "a parameter that is not there yet" );

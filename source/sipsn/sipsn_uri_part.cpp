@@ -15,6 +15,23 @@ namespace sipsn::uri {
 
 // ---- Runs ------------------------------------------------------------------------------------------
 
+// The classes that no other grammar has.
+static constexpr uint8_t schemeChar = 1;
+static constexpr uint8_t tokenChar  = 2; // of a token that can stand in a URI as it is
+static constexpr uint8_t lowerChar  = 4; // of these, all but letters of upper case
+
+static constexpr pb::ClassTable< uint8_t > ownClasses = [] {
+    pb::ClassTable< uint8_t > classes{};
+    for( PbChar ch = 0; ch < PbChar( classes.size() ); ++ch ) {
+        const bool scheme = Is( ch, Alphanum ) || ch == '+' || ch == '-' || ch == '.';
+        const bool token  = Is( ch, Token ) && Is( ch, Unreserved | ParamUnreserved );
+        const bool lower  = token && !Is( ch, UpperAlpha );
+        classes[ size_t( ch ) ] =
+            uint8_t( ( scheme ? schemeChar : 0 ) | ( token ? tokenChar : 0 ) | ( lower ? lowerChar : 0 ) );
+    }
+    return classes;
+}();
+
 static bool IsBeyondAscii( PbChar ch ) { return iri::IsUcsChar( ch ) || iri::IsPrivateChar( ch ); }
 
 // Whether a text holds the character beyond ASCII itself, and not its escapes.
@@ -63,13 +80,17 @@ int64_t SkipHeaderPart( const PbChar *chs, int64_t length, int64_t *changes )
 
 int64_t SkipScheme( const PbChar *chs, int64_t length )
 {
-    const auto belongs = []( PbChar ch ) { return Is( ch, Alphanum ) || ch == '+' || ch == '-' || ch == '.'; };
-    return length > 0 && Is( chs[ 0 ], Alpha ) ? CountWhile( { chs, length }, belongs ) : 0;
+    if( length > 3 && chs[ 3 ] == ':' && Is( chs[ 0 ], Alpha ) && Is( chs[ 1 ], Alpha ) && Is( chs[ 2 ], Alpha ) )
+        return 3;
+    return length > 0 && Is( chs[ 0 ], Alpha ) ? pb::CountRun< true >( ownClasses, schemeChar, chs, length ) : 0;
 }
 
-// In Unicode up to what may follow a host.
-int64_t SkipHost( const PbChar *chs, int64_t length )
+int64_t SkipHost( const PbChar *chs, int64_t length, int64_t *plain )
 {
+    const auto    ends = []( PbChar ch ) { return ch == ':' || ch == ';' || ch == '?'; };
+    const int64_t name = SkipPlainName( chs, length );
+    *plain             = name > 0 && ( name == length || ends( chs[ name ] ) );
+    if( *plain ) return name;
     const int64_t ascii = sipsn___SkipHost( chs, length );
     if( ascii == length || pb::IsAscii( chs[ ascii ] ) ) return ascii;
     const auto belongs = []( PbChar ch ) {
@@ -117,8 +138,20 @@ static int64_t SkipNumber( const PbChar *chs, int64_t length )
 
 int64_t SkipToken( const PbChar *chs, int64_t length )
 {
-    return CountWhile( { chs, length },
-                       []( PbChar ch ) { return Is( ch, Token ) && Is( ch, Unreserved | ParamUnreserved ); } );
+    return pb::CountRun< true >( ownClasses, tokenChar, chs, length );
+}
+
+int64_t SkipLowerToken( const PbChar *chs, int64_t length )
+{
+    const int64_t count = pb::CountRun< true >( ownClasses, lowerChar, chs, length );
+    return count == length || chs[ count ] == ';' || chs[ count ] == '?' ? count : 0;
+}
+
+int64_t SkipPort( const PbChar *chs, int64_t length, int64_t *port )
+{
+    const auto [ value, digits ] = pb::ReadNumber( chs, length, pb::Radix< 10 >{}, uint64_t( INT64_MAX ) );
+    *port                        = value <= uint64_t( INT64_MAX ) ? int64_t( value ) : -1;
+    return digits;
 }
 
 int64_t SkipIsdnSubaddress( const PbChar *chs, int64_t length )
@@ -254,7 +287,8 @@ PbString *TryKeepNumber( PbString *number )
 
 PbString *TryKeepHost( const PbChar *chs, int64_t length )
 {
-    if( std::all_of( chs, chs + length, pb::IsAscii ) ) return sipsn___HostTryDecode( chs, length );
+    PbString *kept = sipsn___HostTryDecode( chs, length );
+    if( kept || std::all_of( chs, chs + length, pb::IsAscii ) ) return kept;
     return TryKeepHost( pb::Ref{ pbStringCreateFromCharsCopy( chs, length ) }.Get() );
 }
 
@@ -265,6 +299,11 @@ PbString *TryKeepHost( PbString *host )
     pb::Ref ascii{ sipsn___HostEncode( host ) };
     pb::Ref kept{ sipsn___HostTryDecode( ascii->chs, ascii->length ) };
     return kept && pbStringEquals( kept.Get(), host ) ? pb::Retain( host ) : kept.Detach();
+}
+
+PbString *TryLowerToken( const PbChar *chs, int64_t length )
+{
+    return SkipToken( chs, length ) == length ? LowerFromChars( chs, length ) : nullptr;
 }
 
 PbString *WithoutSeparators( PbString *number )

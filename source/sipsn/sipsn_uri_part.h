@@ -17,10 +17,15 @@ NumberedName SkipHeaderPart;
 
 Production SkipScheme;
 Production SkipNumberChars; // what a number consists of, escapes included
-Production SkipHost;        // in ASCII or in Unicode
+
+NumberedName SkipPort; // the port, -1 for one beyond 64 bits
+
+// In ASCII or in Unicode; `plain` says whether it is kept as it stands.
+NumberedName SkipHost;
 
 // Values of parameters that are members.
 Production SkipToken;
+Production SkipLowerToken; // without letters of upper case, and a parameter's whole value
 Production SkipIsdnSubaddress;
 Production SkipExtension;
 Production SkipContext;
@@ -43,6 +48,9 @@ PbString *TryKeepNumber( PbString *number );
 // A host in Unicode; null when it is none.
 PbString *TryKeepHost( const PbChar *chs, int64_t length );
 PbString *TryKeepHost( PbString *host );
+
+// A token in lower case; null when it is none.
+PbString *TryLowerToken( const PbChar *chs, int64_t length );
 
 // The number, or what begins with one, without separators.
 PbString *WithoutSeparators( PbString *number );
