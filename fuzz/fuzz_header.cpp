@@ -16,12 +16,14 @@ struct Family : HeaderFunctions
     explicit Family( const std::string &type, const std::string &items = "", const std::string &item = "" )
         : HeaderFunctions{ type }, length{ Find< int64_t( PbObj * ) >( items + "Length" ) },
           tryDecodeAt{ Find< PbObj *( PbObj *, int64_t ) >( "TryDecode" + item + "At" ) },
-          setAt{ Find< void( PbObj **, int64_t, PbObj * ) >( "Set" + item + "At" ) }
+          setAt{ Find< void( PbObj **, int64_t, PbObj * ) >( "Set" + item + "At" ) }, isLength{ type ==
+                                                                                                "ContentLength" }
     {}
 
     int64_t ( *length )( PbObj *hdr );
     PbObj *( *tryDecodeAt )( PbObj *hdr, int64_t index );
     void ( *setAt )( PbObj **hdr, int64_t index, PbObj *value );
+    bool isLength; // which a message is given when it is encoded
 };
 
 const std::vector< Family > &Families()
@@ -114,6 +116,7 @@ extern "C" int LLVMFuzzerTestOneInput( const uint8_t *data, size_t size )
     pb::Ref again{ sipsnMessageTryDecode( bytes.Get() ) };
     REQUIRE( bool( again ) );
     for( const Family &family : Families() ) {
+        if( family.isLength ) continue;
         const ObjPtr hdr{ family.tryDecodeFromMessage( msg.Get() ) };
         const ObjPtr decoded{ family.tryDecodeFromMessage( again.Get() ) };
         REQUIRE( Same( hdr.Get(), decoded.Get() ) || ( hdr && decoded && family.length ) );

@@ -164,7 +164,7 @@ TEST( SipsnUri, TheSchemaTellsWhatIsNotWhole )
 TEST( SipsnUri, TypesWithAnIriGiveAndTakeIt )
 {
     int        count = 0;
-    const auto uri   = Uri( "sip:b%c3%bc@xn--bcher-kva.example;lr" );
+    const auto uri   = Uri( "sip:b%c3%bc@xn--bcher-kva.example" ); // parameters cannot stand in all
     ForEveryDescribedType( [ & ]( const SipsnSchemaType *type ) {
         const int64_t member = sipsnSchemaMemberIndex( type, "iri" );
         if( member < 0 ) return;
