@@ -71,6 +71,19 @@ static void leaveRoute( const Proxy *proxy, SipsnMessage **request )
     drop( sipsnRouteObj( top ) );
 }
 
+/* Where the first Route or else the request's own URI says, section 16.6; the server when that is not on this host. */
+static int64_t nextPort( const Proxy *proxy, SipsnMessage *request )
+{
+    SipsnRoute *top  = sipsnMessageTopRoute( request );
+    SipsnUri   *uri  = top ? sipsnRouteTryDecodeUri( top ) : sipsnMessageTryDecodeRequestUri( request );
+    PbString   *host = uri ? sipsnUriHost( uri ) : NULL;
+    int64_t     port = host && pbStringEquals( host, proxy->host ) ? sipsnUriPort( uri ) : -1;
+    drop( pbStringObj( host ) );
+    drop( sipsnUriObj( uri ) );
+    drop( sipsnRouteObj( top ) );
+    return port > 0 && port <= 65535 ? port : proxy->serverPort;
+}
+
 static void forwardRequest( const Proxy *proxy, SipsnMessage **request )
 {
     PbString *unique = tryUnique( *request );
@@ -82,7 +95,7 @@ static void forwardRequest( const Proxy *proxy, SipsnMessage **request )
     else if( hops == SIPSN_MAX_FORWARDS_MALFORMED || !sipsnMessagePushRecordRoute( request, proxy->route ) )
         refuse( proxy, *request, 400, unique );
     else if( sipsnMessagePushVia( request, proxy->via, unique ) )
-        udpSend( proxy->udp, *request, proxy->host, proxy->serverPort );
+        udpSend( proxy->udp, *request, proxy->host, nextPort( proxy, *request ) );
     pbStringRelease( unique );
 }
 

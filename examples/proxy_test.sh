@@ -31,9 +31,10 @@ class Client:
         self.udp.bind(("127.0.0.1", 0))
         self.udp.settimeout(5)
 
-    def send(self, method, branch, to="<sip:server@example.com>", hops=70, more=""):
+    def send(self, method, branch, to="<sip:server@example.com>", hops=70, more="",
+             uri="sip:server@example.com"):
         via = "client.example.com;rport" + (f";branch={branch}" if branch else "")
-        self.udp.sendto(f"{method} sip:server@example.com SIP/2.0\r\nVia: SIP/2.0/UDP {via}\r\nTo: {to}\r\n"
+        self.udp.sendto(f"{method} {uri} SIP/2.0\r\nVia: SIP/2.0/UDP {via}\r\nTo: {to}\r\n"
                         f"From: <sip:client@example.com>;tag=c\r\nCall-ID: call\r\nCSeq: 1 {method}\r\n"
                         f"Max-Forwards: {hops}\r\n{more}\r\n".encode(), self.proxy)
 
@@ -87,6 +88,7 @@ def check(proxy, server, outer_proxy):
 
     for proxies, hops, status in (0, 0, 483), (1, 1, 483), (2, 2, 200), (0, 256, 400):
         client.ask(status, "OPTIONS", f"z9hG4bK8{hops}", hops=hops)
+    client.ask(200, "OPTIONS", "z9hG4bK82", hops=1, uri=f"sip:127.0.0.1:{server}")  # past the inner proxy
     client.ask(400, "OPTIONS", "z9hG4bK9", more="Record-Route: <sip:a\r\n")
 
     # What is dropped gets no answer, so the next one belongs to what comes behind it.

@@ -1,5 +1,6 @@
 // sipsn decode: messages as trees or as JSON.
 #include "commands.h"
+#include "describe.h"
 #include "family.h"
 #include "fault.h"
 #include "input.h"
@@ -13,9 +14,10 @@ namespace tool {
 namespace {
 
 constexpr const char *footer =
-    R"(The tree has the start line, the header fields in order of their canonical names, and the size and beginning of the body. A
-header field that has a type (sipsn headers) is shown with its members, or with its items and theirs, and marked as malformed
-when it does not decode. Of a header field with one value the last line counts.
+    R"(The tree has the start line, the URI of a request, the header fields in order of their canonical names, and the size and
+beginning of the body. A header field that has a type (sipsn headers) is shown with its members, or with its items and theirs,
+and marked as malformed when it does not decode. Of a header field with one value the last line counts. SIP, SIPS and tel URIs
+are shown in their parts.
 
 JSON is one array with an object for each message. A header field has its "lines"; by its type it has "members", or "items",
 or "error" when it does not decode. All of the body is there as "text" (UTF-8) or "hex". What is wrong with a file has an
@@ -258,6 +260,8 @@ Node MakeBodyNode( std::string_view body, size_t mostLines )
 Node MakeMessageNode( SipsnMessage *message, const Options &options )
 {
     Node node{ Paint( Ink::strong, StartLine( message ) ) };
+    if( sipsnMessageIsRequest( message ) && !options.raw )
+        node.children.push_back( MakeNode( "iri", Utf8( Owned{ sipsnMessageRequestIri( message ) } ) ) );
     ForEachHeader( message, options.raw, [ & ]( const auto &name, SipsnMessageHeader *header, const Family *family ) {
         node.children.push_back( MakeHeaderNode( name, header, family ) );
     } );

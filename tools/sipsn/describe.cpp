@@ -1,4 +1,5 @@
-// Objects of the library by their members, as JSON: text as text, numbers as numbers, and no member that is absent.
+// Objects of the library by their members, as JSON: text as text, numbers as numbers, and no member that is absent; and
+// JSON as trees.
 #include "describe.h"
 
 #include "text.h"
@@ -93,6 +94,41 @@ Json Describe( PbObj *obj )
         if( Json described = DescribeMember( obj, member ); !described.is_null() )
             object[ sipsnSchemaMemberAt( type, member )->name ] = std::move( described );
     return object;
+}
+
+// ---- Trees -----------------------------------------------------------------------------------------
+
+// Those of SIP, SIPS and tel URIs: of others only the scheme is told apart.
+static void AddUriParts( Node &node, const std::string &iri )
+{
+    const Owned< SipsnUri > uri{ sipsnUriTryDecode( TryString( iri ).Get() ) };
+    if( !uri || sipsnUriHasRest( uri.Get() ) ) return;
+    const Json parts = Describe( sipsnUriObj( uri.Get() ) );
+    for( const auto &[ name, part ] : parts.items() )
+        if( !part.empty() ) node.children.push_back( MakeNode( name, part ) );
+}
+
+Node MakeNode( std::string_view label, const Json &value )
+{
+    Node node{ Paint( Ink::name, Escape( label ) ) };
+    if( value.is_object() ) {
+        for( const auto &[ name, member ] : value.items() ) node.children.push_back( MakeNode( name, member ) );
+    } else if( value.is_array() ) {
+        for( size_t at = 0; at < value.size(); ++at )
+            node.children.push_back( MakeNode( std::to_string( at + 1 ), value[ at ] ) );
+    } else if( !value.is_null() ) {
+        const std::string text = value.is_string() ? value.get< std::string >() : value.dump();
+        node.text += ": " + Escape( text );
+        if( label == "iri" ) AddUriParts( node, text );
+    }
+    return node;
+}
+
+Node MakeValueNode( std::string text, const Json &members )
+{
+    Node node = MakeNode( "", members );
+    node.text = std::move( text );
+    return node;
 }
 
 } // namespace tool

@@ -110,25 +110,4 @@ void PrintTree( const Node &root )
     PrintNode( root, "" );
 }
 
-Node MakeNode( std::string_view label, const Json &value )
-{
-    Node node{ Paint( Ink::name, Escape( label ) ) };
-    if( value.is_object() ) {
-        for( const auto &[ name, member ] : value.items() ) node.children.push_back( MakeNode( name, member ) );
-    } else if( value.is_array() ) {
-        for( size_t at = 0; at < value.size(); ++at )
-            node.children.push_back( MakeNode( std::to_string( at + 1 ), value[ at ] ) );
-    } else if( !value.is_null() ) {
-        node.text += ": " + Escape( value.is_string() ? value.get< std::string >() : value.dump() );
-    }
-    return node;
-}
-
-Node MakeValueNode( std::string text, const Json &members )
-{
-    Node node = MakeNode( "", members );
-    node.text = std::move( text );
-    return node;
-}
-
 } // namespace tool

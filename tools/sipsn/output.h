@@ -61,10 +61,4 @@ struct Node
 };
 void PrintTree( const Node &root );
 
-// "label: value", the label alone for null; with the members of an object and the items of an array as children.
-Node MakeNode( std::string_view label, const Json &value );
-
-// A text, fit to be printed, with the members that it was found to have below it.
-Node MakeValueNode( std::string text, const Json &members );
-
 } // namespace tool

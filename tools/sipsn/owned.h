@@ -23,6 +23,7 @@ template<> inline constexpr auto releaseOf< SipsnContact >              = sipsnC
 template<> inline constexpr auto releaseOf< SipsnGenericParam >         = sipsnGenericParamRelease;
 template<> inline constexpr auto releaseOf< SipsnHeaderContact >        = sipsnHeaderContactRelease;
 template<> inline constexpr auto releaseOf< SipsnHeaderTo >             = sipsnHeaderToRelease;
+template<> inline constexpr auto releaseOf< SipsnUri >                  = sipsnUriRelease;
 
 template< class T, void ( *release )( T * ) = releaseOf< T > > class Owned
 {
