@@ -15,7 +15,7 @@
  *     generic params   every other parameter; never absent, may be empty
  *
  * The members are those of the scheme Digest, and are read whatever the scheme is. As long as there is a token68, the
- * parameters are not written. A scheme alone decodes. */
+ * parameters are not written. A parameter without a value is malformed; a scheme alone is not. */
 #ifndef SIPSN_DIGEST_CREDENTIALS_H
 #define SIPSN_DIGEST_CREDENTIALS_H
 

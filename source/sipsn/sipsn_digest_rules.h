@@ -39,7 +39,8 @@ template< class T > struct SchemeAndParams
                 return value.Detach();
             }
         }
-        return TryDecodeOnlyParams( in, *value.Get(), sipsn___SkipComma ) ? value.Detach() : nullptr;
+        if( !TryDecodeOnlyParams( in, *value.Get(), sipsn___SkipComma ) ) return nullptr;
+        return HaveValues( value->genericParams ) || in.Lacks( "a value of each parameter" ) ? value.Detach() : nullptr;
     }
 
     void Write( TextWriter &out, T &value ) const
@@ -52,6 +53,16 @@ template< class T > struct SchemeAndParams
                 return;
             }
         WriteParams( out, value, Between{ ',', ' ' } );
+    }
+
+private:
+    // One without a value could be a token68. Challenges have none.
+    static bool HaveValues( SipsnGenericParams *params )
+    {
+        if constexpr( requires( T value ) { value.token68; } )
+            for( int64_t at = 0, length = sipsnGenericParamsLength( params ); at < length; ++at )
+                if( !sipsnGenericParamHasValue( PeekParamAt( params, at ) ) ) return false;
+        return true;
     }
 };
 
