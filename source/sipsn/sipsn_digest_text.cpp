@@ -2,17 +2,12 @@
 #include "sipsn_digest_text.h"
 
 #include "sipsn_digest_rules.h"
-
-static int64_t SkipHex( const PbChar *chs, int64_t length )
-{
-    const auto isHex = []( PbChar ch ) { return pb::HexValue( ch ) >= 0; };
-    return std::find_if_not( chs, chs + length, isHex ) - chs;
-}
+#include "sipsn_text_rules.h"
 
 int64_t sipsn::SkipNonceCount( const PbChar *chs, int64_t length )
 {
     constexpr int64_t digits = 8;
-    return SkipHex( chs, length ) == digits ? digits : 0;
+    return SkipHexDigits( chs, length ) == digits ? digits : 0;
 }
 
 int64_t sipsn::SkipToken68( const PbChar *chs, int64_t length )
@@ -27,7 +22,7 @@ int64_t sipsn::SkipToken68( const PbChar *chs, int64_t length )
 bool sipsnDigestResponseOk( PbString *response )
 {
     PB_ASSERT( response );
-    return SkipHex( response->chs, response->length ) == response->length;
+    return sipsn::SkipHexDigits( response->chs, response->length ) == response->length;
 }
 
 bool sipsnDigestVerifyOk( PbString *digestVerify )

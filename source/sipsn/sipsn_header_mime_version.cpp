@@ -20,7 +20,7 @@ struct SipsnHeaderMimeVersion
 };
 
 // Two numbers with a dot between them.
-template< class T > using DottedNumbers = sipsn::PairAndParams< T, sipsn::SkipDot, '.' >;
+template< class T > using DottedNumbers = sipsn::PairAndParams< T, sipsn::SkipOne< '.' >, '.' >;
 
 SIPSN_SINGLE_HEADER( MimeVersion, "Mime-Version", SIPSN_HEADER_MIME_VERSION, DottedNumbers )
 

@@ -2,6 +2,7 @@
 #include "sipsn_header_p_dcs_billing_info.h"
 
 #include "sipsn_header_frame.h"
+#include "sipsn_param_forms.h"
 #include "sipsn_text_rules.h"
 
 struct SipsnHeaderPDcsBillingInfo
@@ -37,8 +38,6 @@ struct SipsnHeaderPDcsBillingInfo
     }
 };
 
-static int64_t SkipAt( const PbChar *chs, int64_t length ) { return length > 0 && chs[ 0 ] == '@'; }
-
 // Three texts with a separator behind each of the first two, then parameters.
 template< class T > struct BillingForm
 {
@@ -46,7 +45,8 @@ template< class T > struct BillingForm
     {
         pb::Ref value{ sipsn::New< T >() };
         if( !( value->correlationId = TryTake( in, sipsn::rule::correlationId ) ) || !in.Take( PbChar{ '/' } ) ||
-            !( value->elementId = TryTake( in, sipsn::rule::elementId ) ) || !in.Take( SkipAt, "\"@\"" ) ||
+            !( value->elementId = TryTake( in, sipsn::rule::elementId ) ) ||
+            !in.Take( sipsn::SkipOne< '@' >, sipsn::quotedChar< '@' > ) ||
             !( value->elementHost = TryTake( in, sipsn::rule::host ) ) )
             return nullptr;
         return TryDecodeParams( in, *value.Get() ) ? value.Detach() : nullptr;

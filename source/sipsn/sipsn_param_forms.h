@@ -6,7 +6,8 @@
 
 namespace sipsn {
 
-inline int64_t SkipDot( const PbChar *chs, int64_t length ) { return length > 0 && chs[ 0 ] == '.'; }
+// One character and no blanks around it.
+template< char ch > int64_t SkipOne( const PbChar *chs, int64_t length ) { return length > 0 && chs[ 0 ] == ch; }
 
 // Whether every member that is never absent is there.
 template< class T > bool IsComplete( T &value )

@@ -72,12 +72,7 @@ inline constexpr TextRule sessUuid{
 inline constexpr TextRule tag{ .words = "a tag", .ok = sipsnTagOk, .production = sipsn___SkipTag };
 inline constexpr TextRule token{ .words = "a token", .ok = sipsnTokenOk, .production = sipsn___SkipToken };
 
-// Kept without its quotes and escapes.
-inline constexpr TextRule quotedString{ .words      = "a quoted string",
-                                        .ok         = sipsnQuotableStringOk,
-                                        .production = sipsn___SkipQuotedString,
-                                        .decoded    = Unquote,
-                                        .encoded    = sipsn___QuotableStringEncode };
+// Kept without quotes and escapes, where it has them.
 inline constexpr TextRule genValue{ .words      = "a token, a host or a quoted string",
                                     .ok         = sipsnQuotableStringOk,
                                     .production = SkipGenValue,
