@@ -3,8 +3,6 @@
 
 #if PB_KEEP_BLOCKS
 
-#include <algorithm>
-
 namespace pb {
 
 [[gnu::tls_model( "initial-exec" )]] constinit thread_local KeptBlocks keptBlocks{};
@@ -16,19 +14,19 @@ struct Closer
 {
     ~Closer()
     {
-        for( uint32_t &room : keptBlocks.room ) room = 0;
+        keptBlocks.room = 0;
         for( KeptBlock *&first : keptBlocks.first )
             while( first ) pbMemFree( std::exchange( first, first->next ) );
     }
 };
 
-// Makes room in every class but 0, once in the life of a thread.
+// Makes room, once in the life of a thread.
 void Open()
 {
     static thread_local Closer closer;
     static_cast< void >( &closer );
     keptBlocks.opened = true;
-    std::fill( keptBlocks.room + 1, std::end( keptBlocks.room ), maxKeptPerClass );
+    keptBlocks.room   = maxKeptGranules;
 }
 
 } // namespace

@@ -20,9 +20,9 @@
 
 namespace pb {
 
-inline constexpr size_t   blockGranule    = 32; // blocks of one class differ by less than this
-inline constexpr uint32_t blockClassCount = 16; // the largest has 512 bytes
-inline constexpr uint32_t maxKeptPerClass = 128;
+inline constexpr size_t   blockGranule    = 32;      // blocks of one class differ by less than this
+inline constexpr uint32_t blockClassCount = 64;      // the largest has 2 KiB
+inline constexpr uint32_t maxKeptGranules = 1 << 15; // 1 MiB, of blocks of all classes
 
 // The class of blocks of that size, from 1 on; above the last, blocks are the C library's, and of class 0.
 inline constexpr size_t BlockClass( int64_t size ) { return ( size_t( size ) + blockGranule - 1 ) / blockGranule; }
@@ -32,12 +32,12 @@ struct KeptBlock
     KeptBlock *next;
 };
 
-// What a thread keeps. Class n holds blocks of n granules; `room` says how many more, and is 0 before the first block
-// is freed and after the thread has ended.
+// What a thread keeps. Class n holds blocks of n granules; `room` says for how many more there is room, and is 0 before
+// the first block is freed and after the thread has ended.
 struct KeptBlocks
 {
     KeptBlock *first[ blockClassCount + 1 ];
-    uint32_t   room[ blockClassCount + 1 ];
+    uint32_t   room;
     bool       opened;
 };
 
@@ -54,15 +54,16 @@ inline void *TryTakeBlock( size_t blockClass )
     KeptBlock *block = blockClass <= blockClassCount ? keptBlocks.first[ blockClass ] : nullptr;
     if( !block ) return nullptr;
     keptBlocks.first[ blockClass ] = block->next;
-    ++keptBlocks.room[ blockClass ];
+    keptBlocks.room += uint32_t( blockClass );
     return block;
 }
 
-// Gives the block of an object back. Class 0 is memory of the C library, as every block is that was resized.
+// Gives the block of an object back. Class 0 is memory of the C library, as every block is that was resized; less 1, it
+// is above all room.
 inline void FreeBlock( void *block, uint32_t blockClass )
 {
-    if( keptBlocks.room[ blockClass ] == 0 ) return FreeUnkeptBlock( block, blockClass );
-    --keptBlocks.room[ blockClass ];
+    if( blockClass - 1 >= keptBlocks.room ) return FreeUnkeptBlock( block, blockClass );
+    keptBlocks.room -= blockClass;
     auto kept = static_cast< KeptBlock * >( block );
 
     kept->next                     = keptBlocks.first[ blockClass ];

@@ -69,6 +69,7 @@ struct PbString
 
     struct Content; // pb_string.cpp
 };
+extern "C" PB_API PbSort pb___sort_PB_STRING;
 
 // ---- Assertions ------------------------------------------------------------------------------------
 
@@ -114,9 +115,41 @@ template< class T > inline constexpr PbSort *sortOf = NoSort< T >();
 
 template< class T > PbObj *AsObj( T *object ) { return reinterpret_cast< PbObj * >( object ); }
 
+// From this count on, references are not counted: the object is a constant and lives as long as the process. Threads
+// that use the same constants would fight for the memory of their counts. (Whoever takes so many references to another
+// object makes it a constant, too.)
+inline constexpr uint32_t uncounted = uint32_t( 1 ) << 31;
+
+// An ASCII text as a string that is a constant. It is never written to, as everybody shares it.
+//
+//     static constexpr pb::ConstantString udp{ "udp" };
+template< size_t N > struct ConstantString
+{
+    PbObj   obj      = { &pb___sort_PB_STRING, uncounted, 0 };
+    int64_t length   = 0;
+    int64_t capacity = 0;
+    PbChar  chs[ N ] = {};
+
+    consteval ConstantString( std::string_view text ) : length( int64_t( text.size() ) ), capacity( length )
+    {
+        for( size_t at = 0; at < text.size(); ++at ) chs[ at ] = text[ at ];
+    }
+    PbString *Get() const { return reinterpret_cast< PbString * >( const_cast< ConstantString * >( this ) ); }
+};
+template< size_t N > ConstantString( const char ( & )[ N ] ) -> ConstantString< N >;
+
+// Makes a constant of an object that nobody else has yet.
+template< class T > T *MakeConstant( T *object )
+{
+    AsObj( object )->count = uncounted;
+    return object;
+}
+
 template< class T > T *Retain( T *object ) // null passes through
 {
-    if( object ) std::atomic_ref( AsObj( object )->count ).fetch_add( 1 );
+    if( !object ) return object;
+    std::atomic_ref count( AsObj( object )->count );
+    if( count.load( std::memory_order_relaxed ) < uncounted ) count.fetch_add( 1 );
     return object;
 }
 
@@ -126,7 +159,9 @@ template< class T > void Release( T *object )
 {
     if( !object ) return;
     std::atomic_ref count( AsObj( object )->count );
-    if( count.load( std::memory_order_acquire ) == 1 || count.fetch_sub( 1 ) == 1 ) pb___ObjFree( AsObj( object ) );
+    const uint32_t  before = count.load( std::memory_order_acquire );
+    if( before >= uncounted ) return;
+    if( before == 1 || count.fetch_sub( 1 ) == 1 ) pb___ObjFree( AsObj( object ) );
 }
 
 template< class T > bool IsShared( T *object )
@@ -134,8 +169,8 @@ template< class T > bool IsShared( T *object )
     return std::atomic_ref( AsObj( object )->count ).load( std::memory_order_acquire ) > 1;
 }
 
-// For members of a dying object and for module constants. The store is volatile because nothing reads it before the
-// memory is freed: as an ordinary store the compiler may drop it.
+// For members of a dying object and for names of module constants. The store is volatile because nothing reads it
+// before the memory is freed: as an ordinary store the compiler may drop it.
 template< class T > void ReleaseAndPoison( T *&slot )
 {
     Release( slot );
@@ -408,12 +443,7 @@ template< class T > void MakeUnique( T *&object ) // copy on write
                                                                                                                        \
     template<> inline constexpr PbSort *pb::sortOf< Type > = &sort_;                                                   \
                                                                                                                        \
-    static void FreeHook( PbObj *obj )                                                                                 \
-    {                                                                                                                  \
-        Type *self = prefix##From( obj );                                                                              \
-        PB_ABORT_UNLESS( nullptr, #self, self );                                                                       \
-        pb::FreeMembers( *self );                                                                                      \
-    }                                                                                                                  \
+    static void                     FreeHook( PbObj *obj ) { pb::FreeMembers( *reinterpret_cast< Type                     *>( obj ) ); }  \
     [[maybe_unused]] static int64_t CompareHook( PbObj *objA, PbObj *objB )                                            \
     {                                                                                                                  \
         Type *pair##A = prefix##From( objA );                                                                          \

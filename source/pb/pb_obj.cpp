@@ -8,8 +8,6 @@
 #include <cstdlib>
 #include <cstring>
 
-extern "C" PB_API PbSort pb___sort_PB_STRING;
-
 PbSort *pbObjSort( PbObj *obj )
 {
     PB_ASSERT( obj );

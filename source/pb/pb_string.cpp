@@ -26,6 +26,8 @@ struct PbString::Content
     }
 };
 
+static_assert( offsetof( pb::ConstantString< 1 >, chs ) == offsetof( PbString, chs ) );
+
 PB_DEFINE_TYPE( PbString, pbString, pb___sort_PB_STRING, "PB_STRING", pb___module, string, string, pbStringRetain )
 
 namespace {

@@ -21,6 +21,12 @@ SIPSN_DEFINE_TYPE( SipsnGenericParams, sipsnGenericParams, SIPSN_GENERIC_PARAMS,
 
 SipsnGenericParams *sipsnGenericParamsCreate( void ) { return pb::New< SipsnGenericParams >(); }
 
+SipsnGenericParams *sipsn::NoParams()
+{
+    static constinit SipsnGenericParams none{ { pb::sortOf< SipsnGenericParams >, pb::uncounted, 0 }, nullptr };
+    return &none;
+}
+
 // ---- By index --------------------------------------------------------------------------------------
 
 int64_t sipsnGenericParamsLength( SipsnGenericParams *params )
@@ -172,6 +178,7 @@ PbString *sipsnGenericParamsParamValueNormalizedWcstr( SipsnGenericParams *param
 
 void sipsn::SetParamOwned( SipsnGenericParams **params, SipsnGenericParam *param )
 {
+    pb::MakeUnique( *params );
     if( !( *params )->params ) ( *params )->params = pb___DictCreateWithCapacity( 2 );
     pb___DictSetOwned( &( *params )->params, pb::Retain( sipsn::PeekName( param ) ), pb::AsObj( param ) );
 }

@@ -13,13 +13,6 @@ PbString *LinesToString( SipsnMessageHeader *owned )
     }
 }
 
-void CreateName( PbString *&constant, const char *text )
-{
-    constant = nullptr;
-    constant = pbStringCreateFromCstr( text, -1 );
-    ShareHeaderName( constant );
-}
-
 int64_t SkipListItem( const PbChar *chs, int64_t length )
 {
     int64_t end = 0; // behind what is not a blank

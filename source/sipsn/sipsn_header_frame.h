@@ -46,10 +46,6 @@ inline bool IsField( SipsnMessageHeader *header, PbString *name )
     return ( header && header->name == name ) || sipsnMessageHeaderNameEquals( header, name );
 }
 
-// Creates and drops a family's name constant, which the known header names share.
-void        CreateName( PbString *&constant, const char *text );
-inline void DropName( PbString *&constant ) { pb::ReleaseAndPoison( constant ); }
-
 // A text that a caller adds to a list. Values are made of checked members; still no text may ever end its line.
 inline PbString *CheckedLine( PbString *owned )
 {
@@ -302,23 +298,20 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 //
 //     sipsn___PbsVia, sipsn___HeaderViaStartup, sipsn___HeaderViaShutdown
 #define SIPSN_DEFINE_NAME( Family, text )                                                                              \
-    SIPSN_DEFINE_NAME_CONSTANT( Family, text )                                                                         \
-    void sipsn___Header##Family##Startup( void ) { sipsn::CreateName( sipsn___Pbs##Family, text ); }                   \
-    void sipsn___Header##Family##Shutdown( void ) { sipsn::DropName( sipsn___Pbs##Family ); }
-
-// The constant alone, for a family that keeps more.
-#define SIPSN_DEFINE_NAME_CONSTANT( Family, text )                                                                     \
     SIPSN_DECLARE_NAME( Family )                                                                                       \
     PbString                *sipsn___Pbs##Family;                                                                      \
     static constexpr int64_t nameNumber = sipsn::HeaderNumber( text );                                                 \
     static_assert( nameNumber >= 0, "not a known name" );                                                              \
                                                                                                                        \
-    /* The name as decoded header fields have it. */                                                                   \
-    static PbString *CanonicalName()                                                                                   \
+    /* The name as decoded header fields have it, and as the constant has it: mostly the same string. */               \
+    static PbString                    *CanonicalName() { return sipsn::HeaderNameAt( nameNumber ); }                  \
+    static constexpr pb::ConstantString ownName{ text };                                                               \
+                                                                                                                       \
+    void sipsn___Header##Family##Startup( void )                                                                       \
     {                                                                                                                  \
-        constexpr bool isCanonical = sipsn::headerNames[ nameNumber ] == text;                                         \
-        return isCanonical ? sipsn___Pbs##Family : sipsn::HeaderNameAt( nameNumber );                                  \
-    }
+        sipsn___Pbs##Family = sipsn::headerNames[ nameNumber ] == text ? CanonicalName() : ownName.Get();              \
+    }                                                                                                                  \
+    void sipsn___Header##Family##Shutdown( void ) { pb::ReleaseAndPoison( sipsn___Pbs##Family ); }
 
 // Defines the functions of a header type behind SIPSN_DEFINE_NAME. SIPSN_DEFINE_HEADER( Via, SIPSN_HEADER_VIA, shape )
 // defines SIPSN_DEFINE_TYPE for SipsnHeaderVia, its records in the schema, and

@@ -4,9 +4,9 @@
 #include "sipsn_char_class.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstring>
+#include <utility>
 
 namespace sipsn {
 
@@ -60,8 +60,7 @@ template< class Ch > static constexpr uint8_t Lower( Ch ch )
 }
 
 // The beginning of a name in lower case, zeros behind it, so that names are compared eight characters at a time.
-static constexpr size_t longestName = 32;
-using LowerName                     = std::array< uint8_t, longestName >;
+using LowerName = std::array< uint8_t, longestHeaderName >;
 
 static constexpr auto lowerNames = [] {
     std::array< LowerName, count > table{};
@@ -105,7 +104,11 @@ static constexpr auto compact = [] {
     return table;
 }();
 
-static PbString *strings[ count ];
+template< size_t... at > static consteval auto MakeStrings( std::index_sequence< at... > )
+{
+    return std::array{ pb::ConstantString< longestHeaderName >{ names[ at ] }... };
+}
+constinit const decltype( headerNameStrings ) headerNameStrings = MakeStrings( std::make_index_sequence< count >{} );
 
 static int64_t NumberOf( const LowerName &name, size_t length )
 {
@@ -124,7 +127,7 @@ static int64_t NumberOf( const LowerName &name, size_t length )
 template< class Ch > static HeaderNameToken Scan( const Ch *chs, int64_t length )
 {
     LowerName     name{};
-    const int64_t kept = std::min( length, int64_t( longestName ) );
+    const int64_t kept = std::min( length, int64_t( longestHeaderName ) );
     int64_t       at   = 0;
     for( ; at < kept; ++at ) {
         name[ size_t( at ) ] = Lower( chs[ at ] );
@@ -171,8 +174,6 @@ HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length )
     return known.number >= 0 ? known : Scan( bytes, length );
 }
 
-PbString *HeaderNameAt( int64_t number ) { return strings[ number ]; }
-
 // Tokens are ASCII, so that upper and lower case are too.
 template< class Ch > static PbString *Capitalise( const Ch *chs, int64_t length )
 {
@@ -188,28 +189,5 @@ template< class Ch > static PbString *Capitalise( const Ch *chs, int64_t length 
 
 PbString *CapitaliseHeaderName( const PbChar *chs, int64_t length ) { return Capitalise( chs, length ); }
 PbString *CapitaliseHeaderName( const PbByte *bytes, int64_t length ) { return Capitalise( bytes, length ); }
-
-// Whether a name is there: none is before the first start, and each is poisoned by a stop.
-static bool IsSet( const PbString *name ) { return name && reinterpret_cast< uintptr_t >( name ) != UINTPTR_MAX; }
-
-void ShareHeaderName( PbString *name )
-{
-    const int64_t number = Scan( name->chs, name->length ).number;
-    if( number < 0 || IsSet( strings[ number ] ) ) return;
-    if( pbStringEqualsCstr( name, names[ number ].data(), int64_t( names[ number ].size() ) ) )
-        strings[ number ] = pb::Retain( name );
-}
-
-void StartHeaderNames()
-{
-    for( size_t at = 0; at < count; ++at )
-        if( !IsSet( strings[ at ] ) )
-            strings[ at ] = pbStringCreateFromCstr( names[ at ].data(), int64_t( names[ at ].size() ) );
-}
-
-void StopHeaderNames()
-{
-    for( PbString *&name : strings ) pb::ReleaseAndPoison( name );
-}
 
 } // namespace sipsn

@@ -5,16 +5,11 @@
 #include "sipsn_internal.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string_view>
 
 namespace sipsn {
-
-// Creates the names when the library starts, and drops them when it stops. A family shares its name constant before the
-// start, so that the constant and the name of a decoded header field are the same string.
-void ShareHeaderName( PbString *name );
-void StartHeaderNames();
-void StopHeaderNames();
 
 // The known names. Each has a number, its place here; they are in the order of code points.
 inline constexpr std::string_view headerNames[] = {
@@ -162,8 +157,10 @@ consteval int64_t HeaderNumber( std::string_view name )
     return -1;
 }
 
-// The canonical name of that number, without a reference of its own.
-PbString *HeaderNameAt( int64_t number );
+// The canonical name of that number, a constant.
+inline constexpr size_t                                                             longestHeaderName = 32;
+extern const std::array< pb::ConstantString< longestHeaderName >, headerNameCount > headerNameStrings;
+inline PbString *HeaderNameAt( int64_t number ) { return headerNameStrings[ size_t( number ) ].Get(); }
 
 // The name that a text begins with: how many token characters there are, none when it begins with no name, and the
 // number of the known name that they are, in any letter case or compact; -1 for every other.

@@ -23,16 +23,16 @@ struct SipsnHeaderPriority
     }
 };
 
-SIPSN_DEFINE_NAME_CONSTANT( Priority, "Priority" )
+SIPSN_DEFINE_NAME( Priority, "Priority" )
 
 static constexpr sipsn::WholeLine< SipsnHeaderPriority > shape{};
 
 SIPSN_DEFINE_HEADER( Priority, SIPSN_HEADER_PRIORITY, shape )
 
-static PbString *emergency;
-static PbString *urgent;
-static PbString *normal;
-static PbString *nonUrgent;
+static constexpr pb::ConstantString emergency{ "emergency" };
+static constexpr pb::ConstantString urgent{ "urgent" };
+static constexpr pb::ConstantString normal{ "normal" };
+static constexpr pb::ConstantString nonUrgent{ "non-urgent" };
 
 SipsnHeaderPriority *sipsnHeaderPriorityCreate( PbString *priorityValue )
 {
@@ -40,10 +40,10 @@ SipsnHeaderPriority *sipsnHeaderPriorityCreate( PbString *priorityValue )
     return shape.Create( sipsnPriorityValueNormalize( priorityValue ) );
 }
 
-SipsnHeaderPriority *sipsnHeaderPriorityCreateEmergency( void ) { return sipsnHeaderPriorityCreate( emergency ); }
-SipsnHeaderPriority *sipsnHeaderPriorityCreateUrgent( void ) { return sipsnHeaderPriorityCreate( urgent ); }
-SipsnHeaderPriority *sipsnHeaderPriorityCreateNormal( void ) { return sipsnHeaderPriorityCreate( normal ); }
-SipsnHeaderPriority *sipsnHeaderPriorityCreateNonUrgent( void ) { return sipsnHeaderPriorityCreate( nonUrgent ); }
+SipsnHeaderPriority *sipsnHeaderPriorityCreateEmergency( void ) { return sipsnHeaderPriorityCreate( emergency.Get() ); }
+SipsnHeaderPriority *sipsnHeaderPriorityCreateUrgent( void ) { return sipsnHeaderPriorityCreate( urgent.Get() ); }
+SipsnHeaderPriority *sipsnHeaderPriorityCreateNormal( void ) { return sipsnHeaderPriorityCreate( normal.Get() ); }
+SipsnHeaderPriority *sipsnHeaderPriorityCreateNonUrgent( void ) { return sipsnHeaderPriorityCreate( nonUrgent.Get() ); }
 
 PbString *sipsnHeaderPriorityPriorityValue( SipsnHeaderPriority *hdr ) { return PB_GET( hdr, priorityValue ); }
 void      sipsnHeaderPrioritySetPriorityValue( SipsnHeaderPriority **hdr, PbString *priorityValue )
@@ -58,43 +58,25 @@ static bool Holds( SipsnHeaderPriority *hdr, PbString *named )
     return pbStringEquals( hdr->priorityValue, named );
 }
 
-bool sipsnHeaderPriorityIsEmergency( SipsnHeaderPriority *hdr ) { return Holds( hdr, emergency ); }
-bool sipsnHeaderPriorityIsUrgent( SipsnHeaderPriority *hdr ) { return Holds( hdr, urgent ); }
-bool sipsnHeaderPriorityIsNormal( SipsnHeaderPriority *hdr ) { return Holds( hdr, normal ); }
-bool sipsnHeaderPriorityIsNonUrgent( SipsnHeaderPriority *hdr ) { return Holds( hdr, nonUrgent ); }
+bool sipsnHeaderPriorityIsEmergency( SipsnHeaderPriority *hdr ) { return Holds( hdr, emergency.Get() ); }
+bool sipsnHeaderPriorityIsUrgent( SipsnHeaderPriority *hdr ) { return Holds( hdr, urgent.Get() ); }
+bool sipsnHeaderPriorityIsNormal( SipsnHeaderPriority *hdr ) { return Holds( hdr, normal.Get() ); }
+bool sipsnHeaderPriorityIsNonUrgent( SipsnHeaderPriority *hdr ) { return Holds( hdr, nonUrgent.Get() ); }
 
 void sipsnHeaderPrioritySetEmergency( SipsnHeaderPriority **hdr )
 {
-    sipsnHeaderPrioritySetPriorityValue( hdr, emergency );
+    sipsnHeaderPrioritySetPriorityValue( hdr, emergency.Get() );
 }
 
-void sipsnHeaderPrioritySetUrgent( SipsnHeaderPriority **hdr ) { sipsnHeaderPrioritySetPriorityValue( hdr, urgent ); }
-void sipsnHeaderPrioritySetNormal( SipsnHeaderPriority **hdr ) { sipsnHeaderPrioritySetPriorityValue( hdr, normal ); }
+void sipsnHeaderPrioritySetUrgent( SipsnHeaderPriority **hdr )
+{
+    sipsnHeaderPrioritySetPriorityValue( hdr, urgent.Get() );
+}
+void sipsnHeaderPrioritySetNormal( SipsnHeaderPriority **hdr )
+{
+    sipsnHeaderPrioritySetPriorityValue( hdr, normal.Get() );
+}
 void sipsnHeaderPrioritySetNonUrgent( SipsnHeaderPriority **hdr )
 {
-    sipsnHeaderPrioritySetPriorityValue( hdr, nonUrgent );
-}
-
-// ---- Start-up and shutdown -------------------------------------------------------------------------
-
-void sipsn___HeaderPriorityStartup( void )
-{
-    sipsn::CreateName( sipsn___PbsPriority, "Priority" );
-    emergency = nullptr;
-    urgent    = nullptr;
-    normal    = nullptr;
-    nonUrgent = nullptr;
-    emergency = pbStringCreateFromCstr( "emergency", -1 );
-    urgent    = pbStringCreateFromCstr( "urgent", -1 );
-    normal    = pbStringCreateFromCstr( "normal", -1 );
-    nonUrgent = pbStringCreateFromCstr( "non-urgent", -1 );
-}
-
-void sipsn___HeaderPriorityShutdown( void )
-{
-    sipsn::DropName( sipsn___PbsPriority );
-    pb::ReleaseAndPoison( emergency );
-    pb::ReleaseAndPoison( urgent );
-    pb::ReleaseAndPoison( normal );
-    pb::ReleaseAndPoison( nonUrgent );
+    sipsnHeaderPrioritySetPriorityValue( hdr, nonUrgent.Get() );
 }

@@ -352,12 +352,15 @@ template< class T > struct TimeRow
     }
 };
 
+// Empty parameters, which most values have: a constant that whoever adds a parameter copies first.
+SipsnGenericParams *NoParams();
+
 // All parameters that no other row is about.
 template< class T > struct ParamsRow
 {
     SipsnGenericParams *T::*member;
 
-    static SipsnGenericParams *Initial() { return sipsnGenericParamsCreate(); }
+    static SipsnGenericParams *Initial() { return NoParams(); }
     SipsnGenericParams        *TryStore( PbObj *given ) const
     {
         return reinterpret_cast< SipsnGenericParams * >( TryStoreObject( given, sipsnGenericParamsSort() ) );

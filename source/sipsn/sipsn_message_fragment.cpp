@@ -13,7 +13,7 @@ using sipsn::StringFrom;
 
 SIPSN_DEFINE_TYPE( SipsnMessageFragment, sipsnMessageFragment, SIPSN_MESSAGE_FRAGMENT, frag, frag, pb::sortNameAsText )
 
-static PbString *contentLengthName;
+static constexpr int64_t contentLengthNumber = sipsn::HeaderNumber( "Content-Length" );
 
 SipsnMessageFragment *sipsnMessageFragmentCreate( void )
 {
@@ -302,7 +302,7 @@ SipsnMessageHeader *sipsnMessageFragmentHeaderWcstr( SipsnMessageFragment *frag,
 
 SipsnMessageHeader *sipsn::PeekContentLength( SipsnMessageFragment *frag )
 {
-    return PeekHeader( frag, contentLengthName );
+    return PeekHeader( frag, HeaderNameAt( contentLengthNumber ) );
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeaderContentLength( SipsnMessageFragment *frag )
@@ -382,11 +382,5 @@ void sipsnMessageFragmentDelBody( SipsnMessageFragment **frag ) { PB_DEL( frag, 
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 
-void sipsn___MessageFragmentStartup( void )
-{
-    contentLengthName = nullptr;
-    // The string that decoded headers have too, so that it is found at a glance.
-    contentLengthName = sipsnMessageHeaderNameNormalize( sipsn::StringFrom( "Content-Length", -1 ).Get() );
-}
-
-void sipsn___MessageFragmentShutdown( void ) { pb::ReleaseAndPoison( contentLengthName ); }
+void sipsn___MessageFragmentStartup( void ) {}
+void sipsn___MessageFragmentShutdown( void ) {}

@@ -12,8 +12,8 @@ static PbString *MakeText( SipsnMessageHeader *header );
 
 SIPSN_DEFINE_TYPE( SipsnMessageHeader, sipsnMessageHeader, SIPSN_MESSAGE_HEADER, header, header, MakeText )
 
-static PbString *nameKey;
-static PbString *linesKey;
+static constexpr pb::ConstantString nameKey{ "name" };
+static constexpr pb::ConstantString linesKey{ "lines" };
 
 static SipsnMessageHeader *CreateOwning( PbString *name, PbString *onlyLine, PbVector *linesVector )
 {
@@ -302,8 +302,8 @@ PbStore *sipsnMessageHeaderStore( SipsnMessageHeader *header )
     PB_ASSERT( header );
     pb::Ref store{ pbStoreCreate() };
     pb::Ref lines{ sipsnMessageHeaderStoreLines( header ) };
-    pbStoreSetValue( store.Slot(), nameKey, header->name );
-    pbStoreSetStore( store.Slot(), linesKey, lines.Get() );
+    pbStoreSetValue( store.Slot(), nameKey.Get(), header->name );
+    pbStoreSetStore( store.Slot(), linesKey.Get(), lines.Get() );
     return store.Detach();
 }
 
@@ -322,9 +322,9 @@ PbStore *sipsnMessageHeaderStoreLines( SipsnMessageHeader *header )
 SipsnMessageHeader *sipsnMessageHeaderTryRestore( PbStore *store )
 {
     PB_ASSERT( store );
-    pb::Ref name{ pbStoreValue( store, nameKey ) };
+    pb::Ref name{ pbStoreValue( store, nameKey.Get() ) };
     if( !name || !sipsnMessageHeaderNameOk( name.Get() ) ) return nullptr;
-    return sipsnMessageHeaderRestoreLines( name.Get(), pb::Ref{ pbStoreStore( store, linesKey ) }.Get() );
+    return sipsnMessageHeaderRestoreLines( name.Get(), pb::Ref{ pbStoreStore( store, linesKey.Get() ) }.Get() );
 }
 
 SipsnMessageHeader *sipsnMessageHeaderRestoreLines( PbString *name, PbStore *store )
@@ -352,18 +352,5 @@ SipsnMessageHeader *sipsnMessageHeaderRestoreLinesWcstr( const wchar_t *name, in
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 
-void sipsn___MessageHeaderStartup( void )
-{
-    nameKey  = nullptr;
-    linesKey = nullptr;
-    nameKey  = pbStringCreateFromCstr( "name", -1 );
-    linesKey = pbStringCreateFromCstr( "lines", -1 );
-    sipsn::StartHeaderNames();
-}
-
-void sipsn___MessageHeaderShutdown( void )
-{
-    pb::ReleaseAndPoison( nameKey );
-    pb::ReleaseAndPoison( linesKey );
-    sipsn::StopHeaderNames();
-}
+void sipsn___MessageHeaderStartup( void ) {}
+void sipsn___MessageHeaderShutdown( void ) {}

@@ -5,7 +5,7 @@
 #include "sipsn_token_frame.h"
 #include "sipsn_token_internal.h"
 
-static PbString *nilUuid;
+static constexpr pb::ConstantString nilUuid{ "00000000000000000000000000000000" };
 
 bool sipsnSessUuidOk( PbString *sessUuid )
 {
@@ -13,20 +13,15 @@ bool sipsnSessUuidOk( PbString *sessUuid )
     return sipsn::Matches( sessUuid, sipsn___SkipSessUuid );
 }
 
-PbString *spisnSessUuidNil( void ) { return pb::Retain( nilUuid ); }
+PbString *spisnSessUuidNil( void ) { return pb::Retain( nilUuid.Get() ); }
 
 bool sipsnSessUuidIsNil( PbString *sessUuid )
 {
     PB_ASSERT( sessUuid );
-    return pbStringEquals( sessUuid, nilUuid );
+    return pbStringEquals( sessUuid, nilUuid.Get() );
 }
 
 // ---- Start-up and shutdown -------------------------------------------------------------------------
 
-void sipsn___SessUuidStartup( void )
-{
-    nilUuid = nullptr;
-    nilUuid = pbStringCreateFromCstr( "00000000000000000000000000000000", -1 );
-}
-
-void sipsn___SessUuidShutdown( void ) { pb::ReleaseAndPoison( nilUuid ); }
+void sipsn___SessUuidStartup( void ) {}
+void sipsn___SessUuidShutdown( void ) {}

@@ -73,8 +73,10 @@ static constexpr TextRule uriRest{ .words = "the rest of a URI", .ok = sipsnUriR
 
 namespace {
 
-PbString *sipScheme, *sipsScheme, *telScheme;
-PbVector *noItems; // what most URIs have
+constexpr pb::ConstantString sipScheme{ "sip" };
+constexpr pb::ConstantString sipsScheme{ "sips" };
+constexpr pb::ConstantString telScheme{ "tel" };
+PbVector                    *noItems; // what most URIs have: a constant
 
 // Whether no two parameters have the same name.
 bool NamesDiffer( PbVector *params );
@@ -442,13 +444,13 @@ static SipsnUri *CreateWithHost( PbString *scheme, PbString *host )
     return uri;
 }
 
-SipsnUri *sipsnUriCreateSip( PbString *host ) { return CreateWithHost( sipScheme, host ); }
-SipsnUri *sipsnUriCreateSips( PbString *host ) { return CreateWithHost( sipsScheme, host ); }
+SipsnUri *sipsnUriCreateSip( PbString *host ) { return CreateWithHost( sipScheme.Get(), host ); }
+SipsnUri *sipsnUriCreateSips( PbString *host ) { return CreateWithHost( sipsScheme.Get(), host ); }
 
 SipsnUri *sipsnUriCreateTel( PbString *number )
 {
     PB_ASSERT( sipsnUriNumberIsGlobal( number ) );
-    SipsnUri *uri = CreateOf( telScheme );
+    SipsnUri *uri = CreateOf( telScheme.Get() );
     uri->number   = pb::Retain( number );
     return uri;
 }
@@ -457,7 +459,7 @@ SipsnUri *sipsnUriCreateTelLocal( PbString *number, PbString *phoneContext )
 {
     PB_ASSERT( sipsnUriNumberOk( number ) );
     PB_ASSERT( sipsnUriContextOk( phoneContext ) );
-    SipsnUri *uri     = CreateOf( telScheme );
+    SipsnUri *uri     = CreateOf( telScheme.Get() );
     uri->number       = pb::Retain( number );
     uri->phoneContext = pb::Retain( phoneContext );
     return uri;
@@ -895,12 +897,12 @@ struct Form
         pb::Ref uri{ sipsn::New< SipsnUri >() };
         switch( KindOf( scheme.chs, scheme.length ) ) {
         case Kind::sip:
-            uri->scheme = pb::Retain( scheme.length == 3 ? sipScheme : sipsScheme );
+            uri->scheme = pb::Retain( scheme.length == 3 ? sipScheme.Get() : sipsScheme.Get() );
             if( !TakeAuthority( in, *uri.Get() ) || !TakeParams( in, *uri.Get() ) || !TakeHeaders( in, *uri.Get() ) )
                 return nullptr;
             break;
         case Kind::tel:
-            uri->scheme = pb::Retain( telScheme );
+            uri->scheme = pb::Retain( telScheme.Get() );
             if( !TakeNumber( in, *uri.Get() ) || !TakeParams( in, *uri.Get() ) ) return nullptr;
             if( !SipsnUri::IsWhole( *uri.Get() ) && !in.Lacks( "a phone-context" ) ) return nullptr;
             break;
@@ -1130,16 +1132,6 @@ PbString *sipsnUriEncodeUri( SipsnUri *uri )
 
 void sipsn___UriStartup( void )
 {
-    sipScheme  = pbStringCreateFromCstr( "sip", -1 );
-    sipsScheme = pbStringCreateFromCstr( "sips", -1 );
-    telScheme  = pbStringCreateFromCstr( "tel", -1 );
-    noItems    = pbVectorCreate();
+    if( !noItems ) noItems = pb::MakeConstant( pbVectorCreate() );
 }
-
-void sipsn___UriShutdown( void )
-{
-    pb::ReleaseAndPoison( sipScheme );
-    pb::ReleaseAndPoison( sipsScheme );
-    pb::ReleaseAndPoison( telScheme );
-    pb::ReleaseAndPoison( noItems );
-}
+void sipsn___UriShutdown( void ) {}

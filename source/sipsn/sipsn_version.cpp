@@ -10,7 +10,8 @@
 
 SIPSN_DEFINE_TYPE( SipsnVersion, sipsnVersion, SIPSN_VERSION, version, version, sipsn___VersionEncode )
 
-static SipsnVersion *sip20;
+static constexpr pb::ConstantString sip{ "SIP" }, twoPointZero{ "2.0" };
+static SipsnVersion                 sip20; // a constant, from the first start on
 
 // Takes over both references.
 static SipsnVersion *CreateOwning( PbString *protocolName, PbString *protocolVersion )
@@ -29,7 +30,7 @@ SipsnVersion *sipsnVersionCreate( PbString *protocolName, PbString *protocolVers
     return CreateOwning( sipsnProtocolNameNormalize( protocolName ), sipsnProtocolVersionNormalize( protocolVersion ) );
 }
 
-SipsnVersion *sipsnVersionCreateSip20( void ) { return pb::Retain( sip20 ); }
+SipsnVersion *sipsnVersionCreateSip20( void ) { return &sip20; }
 
 // ---- Accessors -------------------------------------------------------------------------------------
 
@@ -48,14 +49,12 @@ void      sipsnVersionSetProtocolVersion( SipsnVersion **version, PbString *prot
 bool sipsnVersionIsSip( SipsnVersion *version )
 {
     PB_ASSERT( version );
-    static constexpr PbChar sip[] = { 'S', 'I', 'P' };
-    return pbStringEqualsChars( version->protocolName, sip, 3 );
+    return pbStringEquals( version->protocolName, sip.Get() );
 }
 
 bool sipsnVersionIsSip20( SipsnVersion *version )
 {
-    static constexpr PbChar twoPointZero[] = { '2', '.', '0' };
-    return sipsnVersionIsSip( version ) && pbStringEqualsChars( version->protocolVersion, twoPointZero, 3 );
+    return sipsnVersionIsSip( version ) && pbStringEquals( version->protocolVersion, twoPointZero.Get() );
 }
 
 // ---- Text form -------------------------------------------------------------------------------------
@@ -72,7 +71,7 @@ SipsnVersion *sipsn___VersionTryDecode( const PbChar *chs, int64_t length )
     PB_ASSERT( length >= 0 );
     PB_ASSERT( chs || length == 0 );
 
-    if( IsSip20Text( chs, length ) ) return pb::Retain( sip20 );
+    if( IsSip20Text( chs, length ) ) return &sip20;
 
     sipsn::Cursor in{ chs, length };
     sipsn::Span   name = in.Take( sipsn___SkipProtocolName );
@@ -93,8 +92,7 @@ PbString *sipsn___VersionEncode( SipsnVersion *version )
 
 void sipsn___VersionStartup( void )
 {
-    sip20 = nullptr;
-    sip20 = CreateOwning( pbStringCreateFromCstr( "SIP", -1 ), pbStringCreateFromCstr( "2.0", -1 ) );
+    sip20 = { { pb::sortOf< SipsnVersion >, pb::uncounted, 0 }, sip.Get(), twoPointZero.Get() };
 }
 
-void sipsn___VersionShutdown( void ) { pb::ReleaseAndPoison( sip20 ); }
+void sipsn___VersionShutdown( void ) {}

@@ -69,8 +69,8 @@ struct SipsnVia
 
 SIPSN_DEFINE_TYPE( SipsnVia, sipsnVia, SIPSN_VIA, via, via, sipsn___ViaEncode )
 
-static PbString *udp;
-static PbString *localhost;
+static constexpr pb::ConstantString udp{ "udp" };
+static constexpr pb::ConstantString localhost{ "localhost" };
 
 SipsnVia *sipsnViaCreate( SipsnVersion *version, PbString *transport, PbString *host )
 {
@@ -90,7 +90,7 @@ SipsnVia *sipsnViaCreateWithPort( SipsnVersion *version, PbString *transport, Pb
     return via.Detach();
 }
 
-SipsnVia *sipsnViaCreateDummy( SipsnVersion *version ) { return sipsnViaCreate( version, udp, localhost ); }
+SipsnVia *sipsnViaCreateDummy( SipsnVersion *version ) { return sipsnViaCreate( version, udp.Get(), localhost.Get() ); }
 
 // ---- Accessors -------------------------------------------------------------------------------------
 
@@ -222,18 +222,7 @@ constexpr Form form{};
 
 SIPSN_DEFINE_TEXT( Via, via, form )
 
-// ---- Start-up and shutdown -------------------------------------------------------------------------
+// ---- Start-up and shutdown: nothing to do -----------------------------------------------------------
 
-void sipsn___ViaStartup( void )
-{
-    udp       = nullptr;
-    localhost = nullptr;
-    udp       = pbStringCreateFromCstr( "udp", -1 );
-    localhost = pbStringCreateFromCstr( "localhost", -1 );
-}
-
-void sipsn___ViaShutdown( void )
-{
-    pb::ReleaseAndPoison( udp );
-    pb::ReleaseAndPoison( localhost );
-}
+void sipsn___ViaStartup( void ) {}
+void sipsn___ViaShutdown( void ) {}

@@ -264,6 +264,7 @@ TEST( SipsnFrame, ACopySharesTheMembers )
         EXPECT_EQ( Words( copy.Get(), type.sort() ), members );
         for( size_t n = 0; n < members.size(); ++n ) {
             if( !IsObject( members[ n ] ) ) continue;
+            if( counts[ n ] >= pb::uncounted ) continue;
             EXPECT_EQ( count( members[ n ] ), counts[ n ] + std::ranges::count( members, members[ n ] ) ) << n;
         }
         if( sample.text ) {
