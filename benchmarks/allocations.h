@@ -1,6 +1,8 @@
-// How many blocks of heap memory the process has taken, counted in whatever library they were taken.
+// How often the process has taken heap memory, and how many blocks of it stand, counted in whatever library they were
+// taken.
 #pragma once
 
 #include <cstdint>
 
 int64_t CountAllocations();
+int64_t CountBlocks();

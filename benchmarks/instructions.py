@@ -1,62 +1,138 @@
-"""Counts the instructions and the heap allocations of one operation on a message or value, with valgrind: the
-difference between two numbers of runs, so that what a process does once does not count.
+"""Counts what one operation on a message or value takes: instructions, and those of them that lock the bus, with
+valgrind; calls of the allocator and what stays taken of the heap.
 
-    instructions.py SIPSN_COUNT [MESSAGE...]     a table of the messages, by default all that are measured
-    instructions.py SIPSN_COUNT --budget         invite.sip alone, and status 1 when it takes more than it may
-    instructions.py SIPSN_COUNT --values         a table of one value of each type, beside a scan of the same text
+    instructions.py FOLDER [MESSAGE...]     a table of the messages, by default invite.sip and ims_invite.sip
+    instructions.py FOLDER --check          compares with expected.tsv, and status 1 when a figure rose
+    instructions.py FOLDER --expect         writes expected.tsv anew
+    instructions.py FOLDER --budget         invite.sip alone, and status 1 when it takes more than it may
+    instructions.py FOLDER --values         a table of one value of each type, beside a scan of the same text
 
-Objects use the memory of those that were released before, so that in the long run there are fewer allocations than
-objects. "held" is how many there are when nothing is released: the blocks of memory that the result takes, and what its
-making takes besides.
+FOLDER is that of sipsn_count and sipsn_heap. Instructions are the difference between two numbers of runs, so that what a
+process does once does not count. Objects use the memory of those that were released before, so that in the long run there
+are fewer calls of the allocator ("alloc.") than objects; "held" is how many there are when nothing is released, "blocks"
+and "bytes" what then stays taken, with what the allocator adds to a block.
 """
 import argparse
+import collections
 import concurrent.futures
+import functools
 import os
 import pathlib
+import platform
 import re
 import subprocess
 import sys
+import tempfile
+import threading
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-OPERATIONS = ("decode", "encode", "full", "typed", "reply")
-RUNS = (10, 60)
+MESSAGES = ROOT / "benchmarks/messages"
+EXPECTED = ROOT / "benchmarks/expected.tsv"
+OPERATIONS = ("decode", "find", "full", "all", "typed", "encode", "encode-typed", "full-encode", "reply", "forward", "stream")
+# The messages of the stream whose average message has 1,179 bytes.
+MIXED = ("invite", "ok200", "register", "options", "ims_invite", "notify")
+RUNS = (12, 60)  # the stream holds six messages
 NOT_POSSIBLE = 3
+MAY_RISE = 1.03
 
-INSTRUCTIONS = (["--tool=callgrind", "--callgrind-out-file=/dev/null"], re.compile(r"Collected : (\d+)"))
-ALLOCATIONS = (["--tool=memcheck", "--leak-check=no", "--undef-value-errors=no"],
-               re.compile(r"total heap usage: ([\d,]+) allocs"))
+# Of invite.sip: the most instructions, and calls of the allocator when all is held, that an operation may take.
+BUDGET = {"decode": (9_160, 30), "full": (25_290, 77), "all": (27_470, 79), "typed": (49_600, 79),
+          "encode": (3_250, 1), "encode-typed": (15_410, 1), "full-encode": (28_560, 2), "reply": (11_850, 1),
+          "forward": (21_380, 4)}
 
-# Of invite.sip: the most instructions and allocations, even when all is held, that an operation may take.
-BUDGET = {"decode": (12_000, 45), "encode": (3_500, 3), "full": (22_000, 110), "typed": (52_000, 130), "reply": (9_000, 3)}
+Figures = collections.namedtuple("Figures", "instructions locked allocations held blocks bytes")
 
 
 class NotPossible(Exception):
     """The message does not decode, or is not to be replied to."""
 
 
-def count(program, tool, operation, message, runs):
-    options, figure = tool
-    result = subprocess.run(["valgrind", *options, program, operation, message, str(runs)],
-                            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+def run(*command):
+    result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     if result.returncode == NOT_POSSIBLE:
         raise NotPossible
     if result.returncode != 0:
-        sys.exit(result.stderr)
-    return int(figure.search(result.stderr).group(1).replace(",", ""))
+        sys.exit(f"{' '.join(map(str, command))}\n{result.stderr}")
+    return result.stdout
 
 
-def per_run(program, tool, operation, subject):
-    few, many = (count(program, tool, operation, subject, runs) for runs in RUNS)
-    return round((many - few) / (RUNS[1] - RUNS[0]))
+# ---- Counting --------------------------------------------------------------------------------------
+
+LOCKED = re.compile(r"^ *([0-9a-f]+):\t(?:lock |xchg[bwlq]? .*\()", re.MULTILINE)
+disassembling = threading.Lock()
 
 
-def per_operation(program, operation, message):
-    """(instructions, allocations, allocations when held), or None."""
+@functools.cache
+def locked_addresses(binary):
+    """Where a program or library has instructions that lock the bus: the prefix, and an exchange with memory."""
+    listing = run("objdump", "--disassemble", "--no-show-raw-insn", binary)
+    return frozenset(int(address, 16) for address in LOCKED.findall(listing))
+
+
+def locked_in(profile):
+    """How many of the instructions in callgrind's profile were locked ones."""
+    count, addresses, inclusive = 0, frozenset(), False
+    for line in profile:
+        if line.startswith("0x") and not inclusive:
+            address, _, cost = line.split()
+            if int(address, 16) in addresses:
+                count += int(cost)
+        elif line.startswith("ob="):
+            binary = line[len("ob="):].strip()
+            with disassembling:
+                addresses = locked_addresses(binary) if os.path.exists(binary) else frozenset()
+        inclusive = line.startswith("calls=")  # the next line is what the called function took, which stands there as well
+    return count
+
+
+def profiled(folder, operation, subject, runs):
+    """(instructions, locked instructions) of a process."""
+    with tempfile.NamedTemporaryFile("r") as profile:
+        run("valgrind", "--tool=callgrind", f"--callgrind-out-file={profile.name}", "--dump-instr=yes",
+            "--compress-strings=no", "--compress-pos=no", folder / "sipsn_count", operation, subject, str(runs))
+        lines = profile.readlines()
+    return int(lines[-1].removeprefix("totals: ")), locked_in(lines)
+
+
+def per_run(folder, operation, subject):
+    few, many = (profiled(folder, operation, subject, runs) for runs in RUNS)
+    return [round((more - less) / (RUNS[1] - RUNS[0])) for less, more in zip(few, many)]
+
+
+def heap(folder, operation, subject):
+    return [round(float(figure)) for figure in run(folder / "sipsn_heap", operation, subject).split()]
+
+
+def figures_of(folder, operation, message):
+    """The figures, or None."""
     try:
-        return (per_run(program, INSTRUCTIONS, operation, message), per_run(program, ALLOCATIONS, operation, message),
-                per_run(program, ALLOCATIONS, f"hold-{operation}", message))
+        return Figures(*per_run(folder, operation, message), *heap(folder, operation, message))
     except NotPossible:
         return None
+
+
+def at_once(function, *jobs):
+    with concurrent.futures.ThreadPoolExecutor(min(2, os.cpu_count())) as pool:
+        return list(pool.map(function, *jobs))
+
+
+def measured(folder, jobs):
+    """{ (operation, message): figures } of those that are possible."""
+    figures = at_once(lambda job: figures_of(folder, *job), jobs)
+    return {job: taken for job, taken in zip(jobs, figures) if taken}
+
+
+# ---- Tables ----------------------------------------------------------------------------------------
+
+def print_messages(figures):
+    for message in dict.fromkeys(message for _, message in figures):
+        wire = message.stat().st_size / (len(MIXED) if message.stem == "mixed" else 1)
+        print(f"{message.name}, {wire:,.0f} bytes\n"
+              f"{'':14}{'instructions':>13}{'locked':>8}{'alloc.':>8}{'held':>6}{'blocks':>8}{'bytes':>8}{'a wire byte':>13}")
+        for (operation, of), taken in figures.items():
+            if of == message:
+                print("{:14}{:13,}{:8,}{:8}{:6}{:8}{:8,}".format(operation, *taken) + f"{taken.bytes / wire:13.1f}")
+        print()
 
 
 def value_types():
@@ -64,51 +140,109 @@ def value_types():
     return re.findall(r"^    VALUE(?:_BY\( \w+,|\() (\w+),", text, re.MULTILINE)
 
 
-def print_values(program):
-    columns = {"scan": INSTRUCTIONS, "decode": INSTRUCTIONS, "encode": INSTRUCTIONS, "hold-decode": ALLOCATIONS}
+def print_values(folder):
     values = value_types()
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        rows = list(pool.map(lambda value: [per_run(program, tool, f"{operation}-value", value)
-                                            for operation, tool in columns.items()], values))
+    rows = at_once(lambda value: [per_run(folder, f"{operation}-value", value)[0] for operation in ("scan", "decode", "encode")]
+                   + [heap(folder, "decode-value", value)[1]], values)
     print(f"{'value':20}{'scan':>9}{'decode':>9}{'/ scan':>8}{'held':>6}{'encode':>9}")
     for value, (scan, decode, encode, held) in zip(values, rows):
         print(f"{value:20}{scan:9,}{decode:9,}{decode / scan:8.1f}{held:6}{encode:9,}")
 
 
-def samples():
-    files = [file for folder in ("benchmarks/messages", "examples/messages") for file in (ROOT / folder).iterdir()]
-    return sorted(file for file in files if file.suffix != ".md")
+# ---- Comparing -------------------------------------------------------------------------------------
+
+COLUMNS = ("operation", "message", "instructions", "locked", "blocks", "bytes")
+
+
+def tools(folder):
+    """What the figures depend on besides the sources."""
+    compiler = re.search(r"GCC: \(.*?\) (\S+)", run("readelf", "--string-dump=.comment", folder / "sipsn_count"))
+    valgrind = run("valgrind", "--version").strip().removeprefix("valgrind-")
+    return f"# g++ {compiler.group(1) if compiler else 'unknown'}, valgrind {valgrind}, glibc {platform.libc_ver()[1]}"
+
+
+def compared(figures):
+    """The figures of the file, by operation and message."""
+    return {(operation, message.stem): {column: getattr(taken, column) for column in COLUMNS[2:]}
+            for (operation, message), taken in figures.items()}
+
+
+def write_expected(folder, figures):
+    lines = [tools(folder), "\t".join(COLUMNS)]
+    lines += ["\t".join(map(str, [*job, *taken.values()])) for job, taken in compared(figures).items()]
+    EXPECTED.write_text("\n".join(lines) + "\n")
+    print(f"Written: {EXPECTED.relative_to(ROOT)}")
+
+
+def read_expected():
+    made_with, header, *lines = EXPECTED.read_text().splitlines()
+    if header.split("\t") != list(COLUMNS):
+        sys.exit(f"{EXPECTED.relative_to(ROOT)} has other columns; write it anew: ./dev bench --expect")
+    rows = (line.split("\t") for line in lines)
+    return made_with, {(row[0], row[1]): dict(zip(COLUMNS[2:], map(int, row[2:]))) for row in rows}
+
+
+def check(folder, figures):
+    made_with, expected = read_expected()
+    now, rose, fell = compared(figures), [], 0
+    for job in dict.fromkeys([*expected, *now]):
+        if job not in now or job not in expected:
+            rose.append(f"{' '.join(job)}: {'not measured' if job not in now else 'not expected'}")
+            continue
+        for column, before in expected[job].items():
+            after, factor = now[job][column], MAY_RISE if column in ("instructions", "bytes") else 1
+            fell += after * factor < before
+            if after > before * factor:
+                rose.append(f"{' '.join(job)}: {column} {before:,} -> {after:,}"
+                            + (f" ({after / before - 1:+.1%})" if before else ""))
+    for line in rose:
+        print(line)
+    if made_with != tools(folder):
+        print(f"The expected figures were made with {made_with[2:]}; these with {tools(folder)[2:]}. They are compared all the"
+              " same: where the tools differ and not the sources, write them anew with ./dev bench --expect.")
+    if fell:
+        print(f"{fell} figures fell: ./dev bench --expect keeps them low.")
+    print(f"{len(now)} operations compared, {len(rose)} figures rose" if rose else f"{len(now)} operations compared, none rose")
+    return not rose
+
+
+def within_budget(figures):
+    over = [f"{operation}: {limit}, takes {(taken.instructions, taken.held)}" for (operation, _), taken in figures.items()
+            if (limit := BUDGET[operation]) and (taken.instructions > limit[0] or taken.held > limit[1])]
+    print("\n".join(over), file=sys.stderr, end="\n" if over else "")
+    return not over and len(figures) == len(BUDGET)
 
 
 def main():
     parser = argparse.ArgumentParser(usage=__doc__)
-    parser.add_argument("program")
+    parser.add_argument("folder", type=pathlib.Path)
     parser.add_argument("messages", nargs="*", type=pathlib.Path)
-    parser.add_argument("--budget", action="store_true")
-    parser.add_argument("--values", action="store_true")
+    for name in ("check", "expect", "budget", "values"):
+        parser.add_argument(f"--{name}", action="store_true")
     arguments = parser.parse_args()
+    folder = arguments.folder
     if arguments.values:
-        print_values(arguments.program)
+        print_values(folder)
         return 0
+    if arguments.budget:
+        figures = measured(folder, [(operation, MESSAGES / "invite.sip") for operation in BUDGET])
+        print_messages(figures)
+        return 0 if within_budget(figures) else 1
 
-    messages = [ROOT / "benchmarks/messages/invite.sip"] if arguments.budget else arguments.messages or samples()
-    jobs = [(message, operation) for message in messages for operation in OPERATIONS]
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        figures = dict(zip(jobs, pool.map(lambda job: per_operation(arguments.program, job[1], job[0]), jobs)))
-
-    within = True
-    print(f"{'message':34}{'bytes':>8}" + "".join(f"{name:>11}{'alloc.':>8}{'held':>6}" for name in OPERATIONS))
-    for message in messages:
-        row = [figures[message, operation] for operation in OPERATIONS]
-        name = f"{message.parent.parent.name}/{message.name}"
-        print(f"{name:34}{message.stat().st_size:8}" +
-              "".join("{:11,}{:8}{:6}".format(*taken) if taken else f"{'-':>11}{'-':>8}{'-':>6}" for taken in row))
-        if arguments.budget:
-            within = within and all(taken and taken[0] <= BUDGET[operation][0] and taken[2] <= BUDGET[operation][1]
-                                    for operation, taken in zip(OPERATIONS, row))
-    if not within:
-        print(f"More than it may take: {BUDGET}", file=sys.stderr)
-    return 0 if within else 1
+    with tempfile.TemporaryDirectory() as scratch:
+        messages = arguments.messages or [MESSAGES / "invite.sip", MESSAGES / "ims_invite.sip"]
+        jobs = [(operation, message) for message in messages for operation in OPERATIONS]
+        if not arguments.messages:
+            mixed = pathlib.Path(scratch, "mixed.sip")
+            mixed.write_bytes(b"".join((MESSAGES / f"{name}.sip").read_bytes() for name in MIXED))
+            jobs.append(("stream", mixed))
+        figures = measured(folder, jobs)
+        if arguments.check:
+            return 0 if check(folder, figures) else 1
+        print_messages(figures)
+        if arguments.expect:
+            write_expected(folder, figures)
+    return 0
 
 
 sys.exit(main())

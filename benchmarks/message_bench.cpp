@@ -1,9 +1,10 @@
-// Whole messages: decode, encode, round trip, decode with typed header fields, reply and stream, beside two floors:
-// what it takes to copy the bytes, and to widen them to the 32 bits that a character of text has.
+// Whole messages: decode, encode, round trip, decode with typed header fields, reply, forward and stream, beside two
+// floors: what it takes to copy the bytes, and to widen them to the 32 bits that a character of text has.
 #include "measure.h"
-#include "samples.h"
+#include "operations.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -27,13 +28,6 @@ void FloorWiden( benchmark::State &state, PbBuffer *wire )
     } );
 }
 
-// What needs bytes that decode.
-template< auto operation > void MeasureDecoded( benchmark::State &state, PbBuffer *wire )
-{
-    if( !Decode( wire ) ) return state.SkipWithError( "does not decode" );
-    MeasureBytes( state, pbBufferLength( wire ), [ = ] { operation( wire ); } );
-}
-
 void MeasureDecode( benchmark::State &state, PbBuffer *wire )
 {
     MeasureBytes( state, pbBufferLength( wire ), [ = ] { Decode( wire ); } );
@@ -47,18 +41,17 @@ void MeasureEncode( benchmark::State &state, PbBuffer *wire )
     MeasureBytes( state, pbBufferLength( encoded.Get() ), [ & ] { Encode( message.Get() ); } );
 }
 
-void MeasureReply( benchmark::State &state, PbBuffer *wire )
+void MeasureRoundTrip( benchmark::State &state, PbBuffer *wire )
 {
-    pb::Ref request = Decode( wire );
-    if( !request || !sipsnMessageIsRequest( request.Get() ) ) return state.SkipWithError( "is no request" );
-    pb::Ref tag{ pbStringCreateFromCstr( "a73kszlfl", -1 ) };
-    pb::Ref encoded = Reply( request.Get(), tag.Get() );
-    MeasureBytes( state, pbBufferLength( encoded.Get() ), [ & ] { Reply( request.Get(), tag.Get() ); } );
+    if( !Decode( wire ) ) return state.SkipWithError( "does not decode" );
+    MeasureBytes( state, pbBufferLength( wire ), [ = ] { RoundTrip( wire ); } );
 }
 
-void MeasureStream( benchmark::State &state, PbBuffer *wire )
+// The others by the names that they are counted under.
+template< const auto &operation > void MeasureNamed( benchmark::State &state, PbBuffer *wire )
 {
-    MeasureBytes( state, pbBufferLength( wire ), [ = ] { Stream( wire ); } );
+    const auto run = [ & ]( auto make ) { MeasureBytes( state, pbBufferLength( wire ), make ); };
+    if( !RunOnMessage( operation, BytesOf( wire ), run ) ) state.SkipWithError( "does not decode, or is no request" );
 }
 
 struct Kind
@@ -66,15 +59,15 @@ struct Kind
     const char *name;
     void ( *measure )( benchmark::State &state, PbBuffer *wire );
 };
-constexpr Kind kinds[] = {
-    { "FloorCopy", FloorCopy },
-    { "FloorWiden", FloorWiden },
-    { "Decode", MeasureDecode },
-    { "Encode", MeasureEncode },
-    { "RoundTrip", MeasureDecoded< RoundTrip > },
-    { "Full", MeasureDecoded< DecodeFull > },
-    { "Reply", MeasureReply },
-    { "Stream", MeasureStream },
+constexpr char full[] = "full", all[] = "all", encodeTyped[] = "encode-typed", reply[] = "reply", forward[] = "forward",
+               stream[] = "stream";
+constexpr Kind kinds[]  = {
+     { "FloorCopy", FloorCopy },           { "FloorWiden", FloorWiden },
+     { "Decode", MeasureDecode },          { "Encode", MeasureEncode },
+     { "RoundTrip", MeasureRoundTrip },    { "Full", MeasureNamed< full > },
+     { "All", MeasureNamed< all > },       { "EncodeTyped", MeasureNamed< encodeTyped > },
+     { "Reply", MeasureNamed< reply > },   { "Forward", MeasureNamed< forward > },
+     { "Stream", MeasureNamed< stream > },
 };
 
 // Registered by file, so that what is compared stands together. Files are read when their benchmark runs, as buffers

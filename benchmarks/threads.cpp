@@ -1,0 +1,217 @@
+// Does a second thread slow the first one down? Each operation is done by one thread and by two, on a processor each,
+// and printed are the nanoseconds of a message and thread, and the speed-up: how many messages two threads do in the
+// time in which one does one. Nearly 2 is what processors of their own can give.
+//
+// A thread works in chunks of a fraction of a millisecond. Only those chunks count in which it was not interrupted and
+// the other thread was at work from beginning to end, not interrupted either. So a machine with other work can be used.
+#include "operations.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <iterator>
+#include <pthread.h>
+#include <sched.h>
+#include <span>
+#include <thread>
+#include <vector>
+
+namespace {
+
+constexpr int64_t chunkLength = 100'000; // nanoseconds, at least; less than twice as long
+constexpr int64_t gapLength   = 3'000;   // between two chunks of a thread that was at work all the time
+constexpr int     rounds      = 3;
+constexpr auto    roundLength = std::chrono::milliseconds{ 300 };
+
+int64_t Now( clockid_t clock )
+{
+    timespec time{};
+    clock_gettime( clock, &time );
+    return int64_t( time.tv_sec ) * 1'000'000'000 + time.tv_nsec;
+}
+
+struct Span
+{
+    int64_t begin, end; // nanoseconds
+};
+
+struct Chunk : Span
+{
+    bool whole; // the thread was not interrupted: it had the processor for nearly all of the time
+};
+
+template< class Make > Chunk WorkOnce( int64_t times, Make make )
+{
+    const int64_t processor = Now( CLOCK_THREAD_CPUTIME_ID );
+    const int64_t begin     = Now( CLOCK_MONOTONIC );
+    for( int64_t n = 0; n < times; ++n ) make();
+    const int64_t end  = Now( CLOCK_MONOTONIC );
+    const int64_t used = Now( CLOCK_THREAD_CPUTIME_ID ) - processor;
+    return { { begin, end }, used * 100 > ( end - begin ) * 97 };
+}
+
+// What threads use together, in the operations that are about that.
+struct Shared
+{
+    pb::Ref< SipsnMessage >    message;
+    pb::Ref< SipsnHeaderFrom > from;
+
+    explicit Shared( std::string_view bytes )
+        : message( Decode( BufferOf( bytes ).Get() ) ), from( sipsnHeaderFromTryDecodeFromMessage( message.Get() ) )
+    {}
+};
+
+template< class Run > void RunHere( std::string_view operation, std::string_view bytes, const Shared &shared, Run run )
+{
+    if( operation == "encode shared" ) {
+        run( [ & ] { Encode( shared.message.Get() ); } );
+    } else if( operation == "type shared" ) {
+        run( [ & ] {
+            FullMessage full;
+            TypeFields( shared.message.Get(), full );
+        } );
+    } else if( operation == "read shared" ) {
+        run( [ & ] {
+            for( int n = 0; n < 5; ++n ) {
+                pb::Ref iri{ sipsnHeaderFromIri( shared.from.Get() ) };
+                pb::Ref tag{ sipsnHeaderFromTag( shared.from.Get() ) };
+            }
+        } );
+    } else {
+        RunOnMessage( operation, bytes, run );
+    }
+}
+
+class Comparison
+{
+public:
+    Comparison( std::string_view operation, std::string_view bytes )
+        : operation_( operation ), bytes_( bytes ), shared_( bytes )
+    {
+        RunHere( operation_, bytes_, shared_, [ this ]( auto make ) {
+            for( Chunk chunk{}; chunk.end - chunk.begin < chunkLength; ) {
+                chunk = WorkOnce( times_, make );
+                if( !chunk.whole )
+                    chunk = {};
+                else if( chunk.end - chunk.begin < chunkLength )
+                    times_ *= 2;
+            }
+        } );
+    }
+
+    // Nanoseconds of an operation: one for each chunk that counts.
+    std::vector< double > Measure( std::span< const int > processors ) const
+    {
+        std::atomic< bool >                 stop = false;
+        std::vector< std::vector< Chunk > > logs( processors.size() );
+        std::vector< std::thread >          threads;
+        for( size_t n = 0; n < processors.size(); ++n )
+            threads.emplace_back( [ &, n ] { Work( processors[ n ], stop, logs[ n ] ); } );
+        std::this_thread::sleep_for( roundLength );
+        stop = true;
+        for( std::thread &thread : threads ) thread.join();
+
+        std::vector< double > counted;
+        for( size_t n = 0; n < logs.size(); ++n )
+            Count( logs[ n ], AtWork( logs[ ( n + 1 ) % logs.size() ] ), counted );
+        return counted;
+    }
+
+private:
+    void Work( int processor, const std::atomic< bool > &stop, std::vector< Chunk > &log ) const
+    {
+        cpu_set_t own;
+        CPU_ZERO( &own );
+        CPU_SET( processor, &own );
+        pthread_setaffinity_np( pthread_self(), sizeof own, &own );
+        RunHere( operation_, bytes_, shared_, [ & ]( auto make ) {
+            while( !stop.load( std::memory_order_relaxed ) ) log.push_back( WorkOnce( times_, make ) );
+        } );
+    }
+
+    // When a thread was at work without interruption.
+    static std::vector< Span > AtWork( const std::vector< Chunk > &log )
+    {
+        std::vector< Span > spans;
+        for( const Chunk &chunk : log ) {
+            if( !chunk.whole ) continue;
+            if( !spans.empty() && chunk.begin - spans.back().end < gapLength )
+                spans.back().end = chunk.end;
+            else
+                spans.push_back( chunk );
+        }
+        return spans;
+    }
+
+    void Count( const std::vector< Chunk > &log, const std::vector< Span > &other,
+                std::vector< double > &counted ) const
+    {
+        auto span = other.begin();
+        for( const Chunk &chunk : log ) {
+            while( span != other.end() && span->end < chunk.end ) ++span;
+            if( chunk.whole && span != other.end() && span->begin <= chunk.begin )
+                counted.push_back( double( chunk.end - chunk.begin ) / double( times_ ) );
+        }
+    }
+
+    std::string_view operation_, bytes_;
+    Shared           shared_;
+    int64_t          times_ = 1; // operations a chunk
+};
+
+double Median( std::vector< double > &values )
+{
+    if( values.empty() ) return 0;
+    const auto middle = values.begin() + std::ptrdiff_t( values.size() / 2 );
+    std::ranges::nth_element( values, middle );
+    return *middle;
+}
+
+void Compare( const char *operation, const std::string &message, std::string_view bytes,
+              std::span< const int > processors )
+{
+    const Comparison      comparison{ operation, bytes };
+    std::vector< double > alone, together;
+    for( int round = 0; round < rounds; ++round ) { // in turn, as the processor's own speed changes
+        std::ranges::copy( comparison.Measure( processors.first( 1 ) ), std::back_inserter( alone ) );
+        std::ranges::copy( comparison.Measure( processors ), std::back_inserter( together ) );
+    }
+    const double one = Median( alone ), two = Median( together );
+    std::printf( "%-14s %-15s %10.0f %11.0f %9.2f %9zu\n", operation, message.c_str(), one, two,
+                 two > 0 ? 2 * one / two : 0, together.size() );
+    std::fflush( stdout );
+}
+
+// Up to two processors that the process may use.
+std::vector< int > Processors()
+{
+    cpu_set_t          allowed;
+    std::vector< int > processors;
+    CPU_ZERO( &allowed );
+    sched_getaffinity( 0, sizeof allowed, &allowed );
+    for( int n = 0; n < CPU_SETSIZE && processors.size() < 2; ++n )
+        if( CPU_ISSET( n, &allowed ) ) processors.push_back( n );
+    return processors;
+}
+
+} // namespace
+
+int main()
+{
+    const std::vector< int > processors = Processors();
+    if( processors.size() < 2 ) {
+        std::puts( "There is one processor: two threads cannot be compared with one." );
+        return 0;
+    }
+    pbModuleStart( sipsnModule() );
+    std::printf( "%-30s %10s %11s %9s %9s\n", "nanoseconds", "one thread", "two threads", "speed-up", "chunks" );
+    for( const char *operation :
+         { "decode", "full", "encode", "reply", "forward", "encode shared", "type shared", "read shared" } )
+        for( const char *name : { "invite.sip", "ims_invite.sip" } ) {
+            pb::Ref file = ReadFile( std::string{ SIPSN_SOURCE_DIR "/benchmarks/messages/" } + name );
+            if( file ) Compare( operation, name, BytesOf( file.Get() ), processors );
+        }
+    pbModuleStop( sipsnModule() );
+}
