@@ -77,8 +77,7 @@ struct FullMessage
     int64_t sum = 0; // of all numbers and lengths of texts that were read
 };
 
-// The six header fields that tell a dialog, a transaction and a peer, found by their names; what is counted is those
-// there.
+// Looks the six header fields up that tell a dialog, a transaction and a peer; answers how many the message has.
 int64_t FindFields( SipsnMessage *message );
 
 // The message decoded, and its six header fields found.
@@ -141,9 +140,8 @@ private:
     pb::Ref< SipsnMessageStreamDecoder > decoder_{ sipsnMessageStreamDecoderCreate() };
 };
 
-// Finds the operation of this name on a message, or "decode-value" and the like on a type of value, and calls `run`
-// with a function that does it once and returns what it made. False for an unknown name, for bytes that do not decode,
-// and for an operation on requests where they are a response.
+// Calls `run` with a function that does the operation of this name once and returns what it made. False for an unknown
+// name, for bytes that do not decode, and for an operation on requests where they are a response.
 template< class Run > bool RunOnMessage( std::string_view operation, std::string_view bytes, Run run )
 {
     if( operation == "stream" ) {
@@ -171,6 +169,7 @@ template< class Run > bool RunOnMessage( std::string_view operation, std::string
            does( "forward", [ & ] { return proxy.Forward( bytes ); } );
 }
 
+// The same for an operation on a type of value: "scan-value", "decode-value" or "encode-value".
 template< class Run > bool RunOnValue( std::string_view operation, std::string_view type, Run run )
 {
     const auto samples = ValueSamples();
