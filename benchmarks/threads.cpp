@@ -1,14 +1,16 @@
-// Does a second thread slow the first one down? Each operation is done by one thread and by two, on a processor each,
-// and printed are the nanoseconds of a message and thread, and the speed-up: how many messages two threads do in the
-// time in which one does one. Nearly 2 is what processors of their own can give.
-//
-// A thread works in chunks of a fraction of a millisecond. Only those chunks count in which it was not interrupted and
-// the other thread was at work from beginning to end, not interrupted either. So a machine with other work can be used.
+// Does a second thread slow the first one down? Each operation is done by one thread, by two processes and by two
+// threads, on a processor each, and printed are the nanoseconds of a message and thread.
 //
 //     sipsn_threads [OPERATION...]
 //
-// "floor" writes bytes to memory of the thread's own: what the processors themselves give, which is less than 2 where
-// they share a core. Under "shared" both threads use one object, and every reference to it is counted by both.
+// "speed-up" is how many messages two threads do in the time in which one thread does one, with the other processor at
+// leisure or busy with what else the machine does. "of processes" is how many they do for one of two processes, which
+// have no memory in common: less than 1 is what the library itself costs, whatever the processors share. Under "shared"
+// both threads use one object, and every reference to it is counted by both.
+//
+// Work is done in chunks of a fraction of a millisecond. Only those chunks count in which a thread was not interrupted
+// and the other one was at work from beginning to end, not interrupted either. So a machine with other work can be
+// used.
 #include "operations.h"
 
 #include <algorithm>
@@ -17,10 +19,13 @@
 #include <cstdio>
 #include <ctime>
 #include <iterator>
-#include <pthread.h>
+#include <new>
 #include <sched.h>
 #include <span>
+#include <sys/mman.h>
+#include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -30,7 +35,7 @@ constexpr int64_t gapLength   = 3'000;   // between two chunks of a thread that 
 constexpr int     rounds      = 8;
 constexpr auto    roundLength = std::chrono::milliseconds{ 120 };
 
-constexpr const char *operations[] = { "floor",   "decode",        "full",        "encode",     "reply",
+constexpr const char *operations[] = { "decode",  "full",          "encode",      "reply",
                                        "forward", "encode shared", "type shared", "read shared" };
 constexpr const char *messages[]   = { "invite.sip", "ims_invite.sip" };
 
@@ -61,6 +66,30 @@ template< class Make > Chunk WorkOnce( int64_t times, Make make )
     return { { begin, end }, used * 100 > ( end - begin ) * 97 };
 }
 
+struct Log
+{
+    size_t count;
+    Chunk  chunks[ 4096 ];
+
+    std::span< const Chunk > Chunks() const { return { chunks, count }; }
+    bool                     IsFull() const { return count == std::size( chunks ); }
+};
+
+// In memory that is shared with child processes.
+struct Board
+{
+    std::atomic< bool > stop;
+    Log                 logs[ 2 ];
+
+    static Board *Create()
+    {
+        void *memory =
+            mmap( nullptr, sizeof( Board ), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS | MAP_POPULATE, -1, 0 );
+        PB_ASSERT( memory != MAP_FAILED );
+        return new( memory ) Board;
+    }
+};
+
 // What threads use together, in the operations that are about that.
 struct Shared
 {
@@ -74,13 +103,7 @@ struct Shared
 
 template< class Run > void RunHere( std::string_view operation, std::string_view bytes, const Shared &shared, Run run )
 {
-    if( operation == "floor" ) {
-        std::vector< PbChar > own( bytes.size() );
-        run( [ & ] {
-            std::ranges::copy( bytes, own.begin() );
-            std::atomic_signal_fence( std::memory_order_seq_cst );
-        } );
-    } else if( operation == "encode shared" ) {
+    if( operation == "encode shared" ) {
         run( [ & ] { Encode( shared.message.Get() ); } );
     } else if( operation == "type shared" ) {
         run( [ & ] {
@@ -111,21 +134,31 @@ public:
     }
 
     // Nanoseconds of an operation: one for each chunk that counts.
-    std::vector< double > Measure( std::span< const int > processors ) const
+    std::vector< double > InThreads( std::span< const int > processors ) const
     {
-        std::atomic< bool >                 stop = false;
-        std::vector< std::vector< Chunk > > logs( processors.size() );
-        std::vector< std::thread >          threads;
+        std::vector< std::thread > threads;
+        Clear();
         for( size_t n = 0; n < processors.size(); ++n )
-            threads.emplace_back( [ &, n ] { Work( processors[ n ], stop, logs[ n ] ); } );
-        std::this_thread::sleep_for( roundLength );
-        stop = true;
+            threads.emplace_back( [ =, this ] { Work( processors[ n ], board_->logs[ n ] ); } );
+        Wait();
         for( std::thread &thread : threads ) thread.join();
+        return Counted( processors.size() );
+    }
 
-        std::vector< double > counted;
-        for( size_t n = 0; n < logs.size(); ++n )
-            Count( logs[ n ], AtWork( logs[ ( n + 1 ) % logs.size() ] ), counted );
-        return counted;
+    std::vector< double > InProcesses( std::span< const int > processors ) const
+    {
+        std::vector< pid_t > children;
+        Clear();
+        for( size_t n = 0; n < processors.size(); ++n ) {
+            children.push_back( fork() );
+            PB_ASSERT( children.back() >= 0 );
+            if( children.back() > 0 ) continue;
+            Work( processors[ n ], board_->logs[ n ] );
+            _exit( 0 );
+        }
+        Wait();
+        for( pid_t child : children ) waitpid( child, nullptr, 0 );
+        return Counted( processors.size() );
     }
 
 private:
@@ -140,19 +173,40 @@ private:
         return shortest;
     }
 
-    void Work( int processor, const std::atomic< bool > &stop, std::vector< Chunk > &log ) const
+    void Clear() const
+    {
+        board_->stop = false;
+        for( Log &log : board_->logs ) log.count = 0;
+    }
+
+    void Wait() const
+    {
+        std::this_thread::sleep_for( roundLength );
+        board_->stop = true;
+    }
+
+    void Work( int processor, Log &log ) const
     {
         cpu_set_t own;
         CPU_ZERO( &own );
         CPU_SET( processor, &own );
-        pthread_setaffinity_np( pthread_self(), sizeof own, &own );
+        sched_setaffinity( 0, sizeof own, &own ); // of the calling thread
         RunHere( operation_, bytes_, shared_, [ & ]( auto make ) {
-            while( !stop.load( std::memory_order_relaxed ) ) log.push_back( WorkOnce( times_, make ) );
+            while( !board_->stop.load( std::memory_order_relaxed ) && !log.IsFull() )
+                log.chunks[ log.count++ ] = WorkOnce( times_, make );
         } );
     }
 
+    std::vector< double > Counted( size_t workers ) const
+    {
+        std::vector< double > counted;
+        for( size_t n = 0; n < workers; ++n )
+            Count( board_->logs[ n ].Chunks(), AtWork( board_->logs[ ( n + 1 ) % workers ].Chunks() ), counted );
+        return counted;
+    }
+
     // When a thread was at work without interruption.
-    static std::vector< Span > AtWork( const std::vector< Chunk > &log )
+    static std::vector< Span > AtWork( std::span< const Chunk > log )
     {
         std::vector< Span > spans;
         for( const Chunk &chunk : log ) {
@@ -165,8 +219,7 @@ private:
         return spans;
     }
 
-    void Count( const std::vector< Chunk > &log, const std::vector< Span > &other,
-                std::vector< double > &counted ) const
+    void Count( std::span< const Chunk > log, const std::vector< Span > &other, std::vector< double > &counted ) const
     {
         auto span = other.begin();
         for( const Chunk &chunk : log ) {
@@ -179,11 +232,11 @@ private:
     std::string_view operation_, bytes_;
     Shared           shared_;
     int64_t          times_ = 1; // operations a chunk
+    Board           *board_ = Board::Create();
 };
 
 double Median( std::vector< double > &values )
 {
-    if( values.empty() ) return 0;
     const auto middle = values.begin() + std::ptrdiff_t( values.size() / 2 );
     std::ranges::nth_element( values, middle );
     return *middle;
@@ -193,14 +246,19 @@ void Compare( const char *operation, const std::string &message, std::string_vie
               std::span< const int > processors )
 {
     const Comparison      comparison{ operation, bytes };
-    std::vector< double > alone, together;
-    for( int round = 0; round < rounds; ++round ) { // in turn, as the processor's own speed changes
-        std::ranges::copy( comparison.Measure( processors.first( 1 ) ), std::back_inserter( alone ) );
-        std::ranges::copy( comparison.Measure( processors ), std::back_inserter( together ) );
+    std::vector< double > alone, apart, together;
+    for( int round = 0; round < rounds; ++round ) { // in turn, as the processors' own speed changes
+        std::ranges::copy( comparison.InThreads( processors.first( 1 ) ), std::back_inserter( alone ) );
+        std::ranges::copy( comparison.InProcesses( processors ), std::back_inserter( apart ) );
+        std::ranges::copy( comparison.InThreads( processors ), std::back_inserter( together ) );
     }
-    const double one = Median( alone ), two = Median( together );
-    std::printf( "%-14s %-15s %10.0f %11.0f %9.2f %9zu\n", operation, message.c_str(), one, two,
-                 two > 0 ? 2 * one / two : 0, together.size() );
+    if( alone.empty() || apart.empty() || together.empty() ) {
+        std::printf( "%-14s %-15s the machine is too busy\n", operation, message.c_str() );
+        return;
+    }
+    const double one = Median( alone ), processes = Median( apart ), threads = Median( together );
+    std::printf( "%-14s %-15s %10.0f %13.0f %11.0f %9.2f %13.2f %7zu\n", operation, message.c_str(), one, processes,
+                 threads, 2 * one / threads, processes / threads, together.size() );
     std::fflush( stdout );
 }
 
@@ -227,7 +285,8 @@ int main( int argc, char **argv )
         return 0;
     }
     pbModuleStart( sipsnModule() );
-    std::printf( "%-30s %10s %11s %9s %9s\n", "nanoseconds", "one thread", "two threads", "speed-up", "chunks" );
+    std::printf( "%-30s %10s %13s %11s %9s %13s %7s\n", "nanoseconds", "one thread", "two processes", "two threads",
+                 "speed-up", "of processes", "chunks" );
     for( const char *operation : operations ) {
         if( !wanted.empty() && std::ranges::count( wanted, std::string_view{ operation } ) == 0 ) continue;
         for( const std::string message : messages ) {
