@@ -3,10 +3,10 @@
 //
 //     sipsn_threads [OPERATION...]
 //
-// "speed-up" is how many messages two threads do in the time in which one thread does one, with the other processor at
-// leisure or busy with what else the machine does. "of processes" is how many they do for one of two processes, which
-// have no memory in common: less than 1 is what the library itself costs, whatever the processors share. Under "shared"
-// both threads use one object, and every reference to it is counted by both.
+// "speed-up" is how many messages two threads do in the time in which one thread does one, with the other processor
+// idle or busy with other work of the machine. "of processes" is how many they do for one of two processes, which have
+// no memory in common: less than 1 is what the library itself costs, whatever the processors share. Under "shared" both
+// threads use one object, and every reference to it is counted by both.
 //
 // Work is done in chunks of a fraction of a millisecond. Only those chunks count in which a thread was not interrupted
 // and the other one was at work from beginning to end, not interrupted either. So a machine with other work can be
