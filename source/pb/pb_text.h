@@ -300,6 +300,13 @@ struct PlainBlock
         std::transform( bytes.begin(), bytes.end(), lower.bytes.begin(), AsciiLower );
         return lower;
     }
+    uint32_t NotAscii() const
+    {
+        uint32_t mask = 0;
+        for( size_t n = 0; n < bytes.size(); ++n ) mask |= uint32_t( bytes[ n ] >> 7 ) << n;
+        return mask;
+    }
+    void Widen( PbChar *to ) const { std::copy( bytes.begin(), bytes.end(), to ); } // to as many characters
 };
 
 // Writes the low bytes of characters and gathers all their bits, so that one test at the end tells whether they were
@@ -341,6 +348,19 @@ struct SseBlock
         const __m128i upper = _mm_and_si128( _mm_cmpgt_epi8( bytes, _mm_set1_epi8( 'A' - 1 ) ),
                                              _mm_cmplt_epi8( bytes, _mm_set1_epi8( 'Z' + 1 ) ) );
         return { _mm_or_si128( bytes, _mm_and_si128( upper, _mm_set1_epi8( 0x20 ) ) ) };
+    }
+    uint32_t NotAscii() const { return uint32_t( _mm_movemask_epi8( bytes ) ); }
+    void     Widen( PbChar *to ) const
+    {
+        const __m128i zero  = _mm_setzero_si128();
+        const __m128i words = _mm_unpacklo_epi8( bytes, zero ), more = _mm_unpackhi_epi8( bytes, zero );
+        const auto    store = [ = ]( int64_t at, __m128i four ) {
+            _mm_storeu_si128( reinterpret_cast< __m128i    *>( to + at ), four );
+        };
+        store( 0, _mm_unpacklo_epi16( words, zero ) );
+        store( 4, _mm_unpackhi_epi16( words, zero ) );
+        store( 8, _mm_unpacklo_epi16( more, zero ) );
+        store( 12, _mm_unpackhi_epi16( more, zero ) );
     }
 };
 

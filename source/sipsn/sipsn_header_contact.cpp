@@ -33,17 +33,15 @@ struct ContactShape
         return hdr;
     }
 
-    SipsnHeaderContact *TryDecode( SipsnMessageHeader *header ) const
+    SipsnHeaderContact *TryDecode( sipsn::FieldLines &lines ) const
     {
-        const int64_t count = sipsn::LineCount( header );
-        if( count == 0 ) return nullptr;
-        PbString     *line = sipsn::PeekLine( header, 0 );
-        sipsn::Cursor in{ line->chs, line->length };
-        if( !in.Take( sipsn___SkipStar ) ) return contacts.TryDecode( header );
+        if( lines.Count() == 0 ) return nullptr;
+        sipsn::Cursor in{ lines.At( 0 ) };
+        if( !in.Take( sipsn___SkipStar ) ) return contacts.TryDecode( lines );
 
         if( !in.AtEnd() ) return nullptr;
-        for( int64_t at = 1; at < count; ++at )
-            if( sipsn::PeekLine( header, at )->length > 0 ) return nullptr;
+        for( int64_t at = 1; at < lines.Count(); ++at )
+            if( lines.At( at ).length > 0 ) return nullptr;
         return Create( true );
     }
 
@@ -54,10 +52,10 @@ struct ContactShape
                                            : contacts.WatchLine( line, watch );
     }
 
-    SipsnMessageHeader *Encode( SipsnHeaderContact *hdr, PbString *name ) const
+    SipsnMessageHeader *Encode( SipsnHeaderContact *hdr, int64_t number ) const
     {
-        if( !hdr->starForm || pbVectorLength( hdr->items ) > 0 ) return contacts.Encode( hdr, name );
-        return sipsn::CreateHeader( name, pbStringCreateFromCstr( "*", -1 ) );
+        if( !hdr->starForm || pbVectorLength( hdr->items ) > 0 ) return contacts.Encode( hdr, number );
+        return sipsn::CreateHeader( number, pbStringCreateFromCstr( "*", -1 ) );
     }
 };
 

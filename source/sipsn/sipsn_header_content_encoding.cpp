@@ -18,7 +18,7 @@ struct SipsnHeaderContentEncoding
 SIPSN_DEFINE_NAME( ContentEncoding, "Content-Encoding" )
 
 static constexpr sipsn::List< SipsnHeaderContentEncoding > shape{ .noLines = sipsn::NoLines::givesEmptyHeader,
-                                                                  .lines   = sipsn::Lines::joined };
+                                                                  .written = sipsn::Lines::joined };
 
 // A caller's coding is kept as it is, unlike a decoded one.
 static PbString *Stored( PbString *contentCoding )

@@ -10,8 +10,8 @@
 //
 // The shapes are List (encoded values, and tokens that keep their order), Set (tokens, each once), WholeLine (one text)
 // and LastLine (what a form reads: Number, Params and Address of sipsn_form.h, or one of the family's own). A shape has
-// TryDecode( header ), Encode( hdr, name ), which takes over the reference of the field's name, and WatchLine( line,
-// watch ), which tells why a line is refused.
+// TryDecode( lines ), Encode( hdr, number ), the number of the field's name, and WatchLine( line, watch ), which tells
+// why a line is refused.
 #pragma once
 
 #include "sipsn_header.h"
@@ -34,16 +34,10 @@ inline PbString *PeekString( PbVector *vector, int64_t index )
 // The lines of a header field as one text: none, the line itself, or the vector's own text. Takes over the reference.
 PbString *LinesToString( SipsnMessageHeader *owned );
 
-// The field of a family in a message, without a reference of its own, or null.
-inline SipsnMessageHeader *PeekField( SipsnMessage *msg, PbString *canonicalName, int64_t number )
-{
-    return MayHold( msg->fragment, number ) ? PeekHeader( msg->fragment, canonicalName ) : nullptr;
-}
-
 // Whether a header field is that of a family.
-inline bool IsField( SipsnMessageHeader *header, PbString *name )
+inline bool IsField( SipsnMessageHeader *header, PbString *name, int64_t number )
 {
-    return ( header && header->name == name ) || sipsnMessageHeaderNameEquals( header, name );
+    return ( header && header->number == number ) || sipsnMessageHeaderNameEquals( header, name );
 }
 
 // A text that a caller adds to a list. Values are made of checked members; still no text may ever end its line.
@@ -55,12 +49,10 @@ inline PbString *CheckedLine( PbString *owned )
 
 // Reads items and separators that cover all lines of a header field; an empty line holds none. `keep( span )` takes
 // each item and says whether it is a good one.
-template< class Keep >
-bool TryDecodeItems( SipsnMessageHeader *header, Production *item, Production *separator, Keep keep )
+template< class Keep > bool TryDecodeItems( FieldLines &lines, Production *item, Production *separator, Keep keep )
 {
-    for( int64_t at = 0, count = LineCount( header ); at < count; ++at ) {
-        PbString *line = PeekLine( header, at );
-        Cursor    in{ line->chs, line->length };
+    for( int64_t at = 0; at < lines.Count(); ++at ) {
+        Cursor in{ lines.At( at ) };
         for( bool first = true; !in.AtEnd(); first = false ) {
             if( !first && !in.Take( separator ) ) return false;
             Span found = in.Take( item );
@@ -106,15 +98,15 @@ inline constexpr ItemSeparator semicolon{ sipsn___SkipSemi, ';' };
 
 // A header field with all items on one line; with no line when there are none. `itemAt( index )` gives a borrowed text.
 template< class ItemAt >
-SipsnMessageHeader *JoinedField( PbString *name, int64_t count, PbChar separator, ItemAt itemAt )
+SipsnMessageHeader *JoinedField( int64_t number, int64_t count, PbChar separator, ItemAt itemAt )
 {
-    if( count == 0 ) return CreateHeader( name, pbVectorCreate() );
+    if( count == 0 ) return CreateHeader( number, pbVectorCreate() );
     TextWriter out;
     for( int64_t at = 0; at < count; ++at ) {
         if( at > 0 ) out.Char( separator );
         out.Text( itemAt( at ) );
     }
-    return CreateHeader( name, out.ToString() );
+    return CreateHeader( number, out.ToString() );
 }
 
 // What a table says of a header type's items: its last row.
@@ -125,14 +117,14 @@ inline constexpr auto itemsRow = std::get< pb::membersOf< Header >.count - 1 >( 
 template< class Header > struct List
 {
     NoLines noLines;
-    Lines   lines = Lines::onePerItem;
+    Lines   written = Lines::onePerItem;
 
     Header *Create() const { return New< Header >(); }
 
-    Header *TryDecode( SipsnMessageHeader *header ) const
+    Header *TryDecode( FieldLines &lines ) const
     {
         constexpr auto row = itemsRow< Header >;
-        if( noLines == NoLines::givesNull && LineCount( header ) == 0 ) return nullptr;
+        if( noLines == NoLines::givesNull && lines.Count() == 0 ) return nullptr;
         pb::Ref    hdr{ Create() };
         const auto keep = [ & ]( Span found ) {
             if constexpr( row.decodes )
@@ -141,15 +133,15 @@ template< class Header > struct List
             if( item ) pb___VectorAppendOwned( &( ( *hdr.Get() ).*row.member ), pb::AsObj( item ) );
             return item != nullptr;
         };
-        return TryDecodeItems( header, row.item, sipsn___SkipComma, keep ) ? hdr.Detach() : nullptr;
+        return TryDecodeItems( lines, row.item, sipsn___SkipComma, keep ) ? hdr.Detach() : nullptr;
     }
 
     // The vector of one line per item is the header field's as it is.
-    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
+    SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const
     {
         PbVector *items = hdr->*itemsRow< Header >.member;
-        if( lines == Lines::onePerItem ) return CreateHeader( name, pb::Retain( items ) );
-        return JoinedField( name, pbVectorLength( items ), comma.written,
+        if( written == Lines::onePerItem ) return CreateHeader( number, pb::Retain( items ) );
+        return JoinedField( number, pbVectorLength( items ), comma.written,
                             [ & ]( int64_t at ) { return PeekString( items, at ); } );
     }
 
@@ -167,23 +159,23 @@ template< class Header > struct Set
 
     Header *Create() const { return New< Header >(); }
 
-    Header *TryDecode( SipsnMessageHeader *header ) const
+    Header *TryDecode( FieldLines &lines ) const
     {
         constexpr auto row = itemsRow< Header >;
-        if( LineCount( header ) == 0 ) return nullptr;
+        if( lines.Count() == 0 ) return nullptr;
         pb::Ref    hdr{ Create() };
         const auto keep = [ & ]( Span found ) {
             PbString *token = row.rule->decoded( found.chs, found.length );
             pb___DictSetOwned( &( ( *hdr.Get() ).*row.member ), token, pb::AsObj( pb::Retain( token ) ) );
             return true;
         };
-        return TryDecodeItems( header, row.rule->production, separator.read, keep ) ? hdr.Detach() : nullptr;
+        return TryDecodeItems( lines, row.rule->production, separator.read, keep ) ? hdr.Detach() : nullptr;
     }
 
-    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
+    SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const
     {
         PbDict *items = hdr->*itemsRow< Header >.member;
-        return JoinedField( name, pbDictLength( items ), separator.written,
+        return JoinedField( number, pbDictLength( items ), separator.written,
                             [ & ]( int64_t at ) { return pb___DictPeekKeyAt( items, at ); } );
     }
 
@@ -199,18 +191,16 @@ template< class Header, class Form > struct LastLine
 {
     Form form{};
 
-    Header *TryDecode( SipsnMessageHeader *header ) const
+    Header *TryDecode( FieldLines &lines ) const
     {
-        const int64_t count = LineCount( header );
-        if( count == 0 ) return nullptr;
-        PbString *line = PeekLine( header, count - 1 );
-        Cursor    in{ line->chs, line->length };
+        if( lines.Count() == 0 ) return nullptr;
+        Cursor in{ lines.At( lines.Count() - 1 ) };
         return form.TryDecode( in );
     }
 
-    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
+    SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const
     {
-        return CreateHeader( name, TextOf( [ & ]( TextWriter &out ) { form.Write( out, *hdr ); } ) );
+        return CreateHeader( number, TextOf( [ & ]( TextWriter &out ) { form.Write( out, *hdr ); } ) );
     }
 
     bool WatchLine( Span line, Watch &watch ) const { return WatchForm( form, line, watch ); }
@@ -222,16 +212,16 @@ template< class Header > struct WholeLine
     // Takes over the reference.
     Header *Create( PbString *owned ) const { return NewWith( First().member, owned ); }
 
-    Header *TryDecode( SipsnMessageHeader *header ) const
+    Header *TryDecode( FieldLines &lines ) const
     {
-        const int64_t count = LineCount( header );
-        PbString     *line  = count > 0 ? PeekLine( header, count - 1 ) : nullptr;
-        return line && First().rule->ok( line ) ? Create( First().rule->normal( line ) ) : nullptr;
+        if( lines.Count() == 0 ) return nullptr;
+        pb::Ref line{ lines.TextAt( lines.Count() - 1 ) };
+        return First().rule->ok( line.Get() ) ? Create( First().rule->normal( line.Get() ) ) : nullptr;
     }
 
-    SipsnMessageHeader *Encode( Header *hdr, PbString *name ) const
+    SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const
     {
-        return CreateHeader( name, pb::Retain( hdr->*First().member ) );
+        return CreateHeader( number, pb::Retain( hdr->*First().member ) );
     }
 
     bool WatchLine( Span line, Watch &watch ) const
@@ -303,13 +293,12 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     static constexpr int64_t nameNumber = sipsn::HeaderNumber( text );                                                 \
     static_assert( nameNumber >= 0, "not a known name" );                                                              \
                                                                                                                        \
-    /* The name as decoded header fields have it, and as the constant has it: mostly the same string. */               \
-    static PbString                    *CanonicalName() { return sipsn::HeaderNameAt( nameNumber ); }                  \
-    static constexpr pb::ConstantString ownName{ text };                                                               \
-                                                                                                                       \
+    /* Mostly the name that decoded header fields have. */                                                             \
     void sipsn___Header##Family##Startup( void )                                                                       \
     {                                                                                                                  \
-        sipsn___Pbs##Family = sipsn::headerNames[ nameNumber ] == text ? CanonicalName() : ownName.Get();              \
+        static constexpr pb::ConstantString own{ text };                                                               \
+        constexpr bool                      isCanonical = sipsn::headerNames[ nameNumber ] == text;                    \
+        sipsn___Pbs##Family                             = isCanonical ? sipsn::HeaderNameAt( nameNumber ) : own.Get(); \
     }                                                                                                                  \
     void sipsn___Header##Family##Shutdown( void ) { pb::ReleaseAndPoison( sipsn___Pbs##Family ); }
 
@@ -321,7 +310,7 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
 #define SIPSN_DEFINE_HEADER( Family, SORT, shape )                                                                     \
     static PbString *LinesText( SipsnHeader##Family *hdr )                                                             \
     {                                                                                                                  \
-        return sipsn::LinesToString( shape.Encode( hdr, pb::Retain( sipsn___Pbs##Family ) ) );                         \
+        return sipsn::LinesToString( shape.Encode( hdr, nameNumber ) );                                                \
     }                                                                                                                  \
     SIPSN_DEFINE_TYPE( SipsnHeader##Family, sipsnHeader##Family, SORT, hdr, hdr, LinesText )                           \
                                                                                                                        \
@@ -336,19 +325,21 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     SipsnHeader##Family *sipsnHeader##Family##TryDecode( SipsnMessageHeader *header )                                  \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "sipsnMessageHeaderNameEquals( header, sipsn___Pbs" #Family " )",                    \
-                         sipsn::IsField( header, sipsn___Pbs##Family ) );                                              \
-        return shape.TryDecode( header );                                                                              \
+                         sipsn::IsField( header, sipsn___Pbs##Family, nameNumber ) );                                  \
+        sipsn::FieldLines lines{ header };                                                                             \
+        return shape.TryDecode( lines );                                                                               \
     }                                                                                                                  \
     SipsnMessageHeader *sipsnHeader##Family##Encode( SipsnHeader##Family *hdr )                                        \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "hdr", hdr );                                                                        \
-        return shape.Encode( hdr, pb::Retain( CanonicalName() ) );                                                     \
+        return shape.Encode( hdr, nameNumber );                                                                        \
     }                                                                                                                  \
     SipsnHeader##Family *sipsnHeader##Family##TryDecodeFromMessage( SipsnMessage *msg )                                \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        SipsnMessageHeader *header = sipsn::PeekField( msg, CanonicalName(), nameNumber );                             \
-        return header && sipsn::LineCount( header ) > 0 ? shape.TryDecode( header ) : nullptr;                         \
+        if( !sipsn::HasKnown( msg->fragment, nameNumber ) ) return nullptr;                                            \
+        sipsn::FieldLines lines{ msg->fragment, nameNumber };                                                          \
+        return lines.Count() > 0 ? shape.TryDecode( lines ) : nullptr;                                                 \
     }                                                                                                                  \
     void sipsnHeader##Family##EncodeToMessage( SipsnHeader##Family *hdr, SipsnMessage **msg )                          \
     {                                                                                                                  \
@@ -359,7 +350,7 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     bool sipsnHeader##Family##PresentInMessage( SipsnMessage *msg )                                                    \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "msg", msg );                                                                        \
-        return sipsn::PeekField( msg, CanonicalName(), nameNumber ) != nullptr;                                        \
+        return sipsn::HasKnown( msg->fragment, nameNumber );                                                           \
     }                                                                                                                  \
     void sipsnHeader##Family##RemoveFromMessage( SipsnMessage **msg )                                                  \
     {                                                                                                                  \
@@ -374,7 +365,9 @@ Value *TryDecodeAt( PbVector *items, int64_t index, Value *( *decode )( const Pb
     SipsnHeader##Family *sipsnHeader##Family##TryRestore( PbStore *store )                                             \
     {                                                                                                                  \
         PB_ABORT_UNLESS( nullptr, "store", store );                                                                    \
-        return shape.TryDecode( pb::Ref{ sipsnMessageHeaderRestoreLines( sipsn___Pbs##Family, store ) }.Get() );       \
+        pb::Ref           header{ sipsnMessageHeaderRestoreLines( sipsn___Pbs##Family, store ) };                      \
+        sipsn::FieldLines lines{ header.Get() };                                                                       \
+        return shape.TryDecode( lines );                                                                               \
     }
 
 // All of a header type whose lines a form of sipsn_form.h reads, but for the functions of its members.

@@ -15,12 +15,7 @@ SIPSN_DEFINE_TYPE( SipsnMessageFragment, sipsnMessageFragment, SIPSN_MESSAGE_FRA
 
 static constexpr int64_t contentLengthNumber = sipsn::HeaderNumber( "Content-Length" );
 
-SipsnMessageFragment *sipsnMessageFragmentCreate( void )
-{
-    SipsnMessageFragment *frag = pb::New< SipsnMessageFragment >();
-    frag->headers              = pb___DictCreateWithCapacity( 8 ); // what a response has at least
-    return frag;
-}
+SipsnMessageFragment *sipsnMessageFragmentCreate( void ) { return pb::New< SipsnMessageFragment >(); }
 
 SipsnMessageFragment *sipsnMessageFragmentCreateRequest( SipsnVersion *version, PbString *method, PbString *iri )
 {
@@ -258,75 +253,144 @@ void sipsnMessageFragmentSetVersion( SipsnMessageFragment **frag, SipsnVersion *
 
 // ---- Header fields ---------------------------------------------------------------------------------
 
-// The canonical form of a name. A known one is recognised in the caller's text, without a string of its own.
-static pb::Ref< PbString > Canonical( PbString *name ) { return pb::Ref{ sipsnMessageHeaderNameNormalize( name ) }; }
-static pb::Ref< PbString > Canonical( const wchar_t *name, int64_t length )
+namespace {
+
+// A name in its canonical form. A known one is recognised in the caller's text, without a string of its own.
+struct FieldName
 {
-    return Canonical( StringFrom( name, length ).Get() );
-}
-static pb::Ref< PbString > Canonical( const char *name, int64_t length )
+    int64_t             number;
+    pb::Ref< PbString > other; // of another name
+
+    explicit FieldName( PbString *name ) : number{ name ? NumberOf( name->chs, name->length ) : -1 }
+    {
+        if( number < 0 ) other = pb::Ref{ sipsnMessageHeaderNameNormalize( name ) };
+    }
+    FieldName( const wchar_t *name, int64_t length ) : FieldName( StringFrom( name, length ).Get() ) {}
+    FieldName( const char *name, int64_t length ) : number{ -1 }
+    {
+        if( name && length == -1 ) length = int64_t( std::strlen( name ) );
+        if( name && length > 0 ) number = NumberOf( reinterpret_cast< const PbByte * >( name ), length );
+        if( number < 0 ) other = pb::Ref{ sipsnMessageHeaderNameNormalize( StringFrom( name, length ).Get() ) };
+    }
+
+private:
+    template< class Ch > static int64_t NumberOf( const Ch *name, int64_t length )
+    {
+        const sipsn::HeaderNameToken token = sipsn::ScanHeaderName( name, length );
+        return token.length == length ? token.number : -1;
+    }
+};
+
+SipsnMessageHeader *PeekOther( SipsnMessageFragment *frag, PbString *name )
 {
-    if( name && length == -1 ) length = int64_t( std::strlen( name ) );
-    const sipsn::HeaderNameToken token =
-        name && length > 0 ? sipsn::ScanHeaderName( reinterpret_cast< const PbByte * >( name ), length )
-                           : sipsn::HeaderNameToken{ 0, -1 };
-    if( token.number >= 0 && token.length == length )
-        return pb::Ref{ pb::Retain( sipsn::HeaderNameAt( token.number ) ) };
-    return Canonical( StringFrom( name, length ).Get() );
+    return frag->others ? reinterpret_cast< SipsnMessageHeader * >( pb___DictPeek( frag->others, name ) ) : nullptr;
 }
 
-static void DelCanonical( SipsnMessageFragment **frag, pb::Ref< PbString > canonical )
+// Where the header of a known name is among the objects, or would be. Few messages have many.
+int64_t PlaceOfKnown( SipsnMessageFragment *frag, int64_t number )
+{
+    int64_t at = frag->known ? pbVectorLength( frag->known ) : 0;
+    while( at > 0 &&
+           reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag->known, at - 1 ) )->number >= number )
+        --at;
+    return at;
+}
+
+// A header of lines in the table.
+SipsnMessageHeader *MakeHeader( SipsnMessageFragment *frag, int64_t first, int64_t end )
+{
+    const sipsn::FieldTable *table  = frag->received;
+    const int64_t            number = table->NumberAt( first );
+    if( end - first == 1 ) return sipsn::CreateHeader( number, sipsn::TextOf( table->ValueAt( first ) ) );
+
+    pb::Ref lines{ pb___VectorCreateWithCapacity( end - first ) };
+    for( int64_t at = first; at < end; ++at )
+        pb___VectorAppendOwned( lines.Slot(), pb::AsObj( sipsn::TextOf( table->ValueAt( at ) ) ) );
+    return sipsn::CreateHeader( number, lines.Detach() );
+}
+
+// A new reference, or null.
+SipsnMessageHeader *KnownHeader( SipsnMessageFragment *frag, int64_t number )
+{
+    if( !frag->inReceived.Has( number ) ) return pb::Retain( sipsn::PeekKnown( frag, number ) );
+    const auto [ first, count ] = frag->received->Find( number );
+    return MakeHeader( frag, first, first + count );
+}
+
+SipsnMessageHeader *Header( SipsnMessageFragment *frag, const FieldName &name )
+{
+    if( name.number >= 0 ) return KnownHeader( frag, name.number );
+    return pb::Retain( PeekOther( frag, name.other.Get() ) );
+}
+
+bool HasHeader( SipsnMessageFragment *frag, const FieldName &name )
+{
+    if( name.number >= 0 ) return sipsn::HasKnown( frag, name.number );
+    return PeekOther( frag, name.other.Get() ) != nullptr;
+}
+
+void DelHeader( SipsnMessageFragment **frag, const FieldName &name )
 {
     PB_UNSHARE( frag );
-    pbDictDelStringKey( &( *frag )->headers, canonical.Get() );
+    if( name.number < 0 ) {
+        if( ( *frag )->others ) pbDictDelStringKey( &( *frag )->others, name.other.Get() );
+        return;
+    }
+    ( *frag )->inReceived.Remove( name.number );
+    if( !( *frag )->inKnown.Has( name.number ) ) return;
+    pbVectorDelAt( &( *frag )->known, PlaceOfKnown( *frag, name.number ) );
+    ( *frag )->inKnown.Remove( name.number );
+}
+
+} // namespace
+
+SipsnMessageHeader *sipsn::PeekKnown( SipsnMessageFragment *frag, int64_t number )
+{
+    if( !frag->inKnown.Has( number ) ) return nullptr;
+    return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag->known, PlaceOfKnown( frag, number ) ) );
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeader( SipsnMessageFragment *frag, PbString *name )
 {
     PB_ASSERT( frag );
-    return pb::Retain( sipsn::PeekHeader( frag, Canonical( name ).Get() ) );
+    return Header( frag, FieldName{ name } );
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeaderCstr( SipsnMessageFragment *frag, const char *name, int64_t nameLength )
 {
     PB_ASSERT( frag );
-    return pb::Retain( sipsn::PeekHeader( frag, Canonical( name, nameLength ).Get() ) );
+    return Header( frag, { name, nameLength } );
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeaderWcstr( SipsnMessageFragment *frag, const wchar_t *name,
                                                      int64_t nameLength )
 {
     PB_ASSERT( frag );
-    return pb::Retain( sipsn::PeekHeader( frag, Canonical( name, nameLength ).Get() ) );
-}
-
-SipsnMessageHeader *sipsn::PeekContentLength( SipsnMessageFragment *frag )
-{
-    return PeekHeader( frag, HeaderNameAt( contentLengthNumber ) );
+    return Header( frag, { name, nameLength } );
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeaderContentLength( SipsnMessageFragment *frag )
 {
     PB_ASSERT( frag );
-    return pb::Retain( sipsn::PeekContentLength( frag ) );
+    return KnownHeader( frag, contentLengthNumber );
 }
 
 bool sipsnMessageFragmentHasHeader( SipsnMessageFragment *frag, PbString *name )
 {
     PB_ASSERT( frag );
-    return sipsn::PeekHeader( frag, Canonical( name ).Get() ) != nullptr;
+    return HasHeader( frag, FieldName{ name } );
 }
 
 bool sipsnMessageFragmentHasHeaderCstr( SipsnMessageFragment *frag, const char *name, int64_t nameLength )
 {
     PB_ASSERT( frag );
-    return sipsn::PeekHeader( frag, Canonical( name, nameLength ).Get() ) != nullptr;
+    return HasHeader( frag, { name, nameLength } );
 }
 
 bool sipsnMessageFragmentHasHeaderWcstr( SipsnMessageFragment *frag, const wchar_t *name, int64_t nameLength )
 {
     PB_ASSERT( frag );
-    return sipsn::PeekHeader( frag, Canonical( name, nameLength ).Get() ) != nullptr;
+    return HasHeader( frag, { name, nameLength } );
 }
 
 void sipsnMessageFragmentSetHeader( SipsnMessageFragment **frag, SipsnMessageHeader *header )
@@ -334,40 +398,66 @@ void sipsnMessageFragmentSetHeader( SipsnMessageFragment **frag, SipsnMessageHea
     PB_ASSERT_SLOT( frag );
     PB_ASSERT( header );
     PB_UNSHARE( frag );
-    pb::Del( ( *frag )->mayHold );
-    pb::Del( ( *frag )->mayHold64 );
-    pbDictSetStringKey( &( *frag )->headers, header->name, sipsnMessageHeaderObj( header ) );
+    const int64_t number = header->number;
+    if( number < 0 ) {
+        if( !( *frag )->others ) ( *frag )->others = pbDictCreate();
+        pbDictSetStringKey( &( *frag )->others, header->name, sipsnMessageHeaderObj( header ) );
+        return;
+    }
+    if( !( *frag )->known ) ( *frag )->known = pb___VectorCreateWithCapacity( 8 ); // what a response has at least
+    const int64_t place = PlaceOfKnown( *frag, number );
+    if( ( *frag )->inKnown.Has( number ) )
+        pbVectorSetAt( &( *frag )->known, place, sipsnMessageHeaderObj( header ) );
+    else
+        pbVectorInsert( &( *frag )->known, place, sipsnMessageHeaderObj( header ) );
+    ( *frag )->inKnown.Add( number );
+    ( *frag )->inReceived.Remove( number );
 }
 
 void sipsnMessageFragmentDelHeader( SipsnMessageFragment **frag, PbString *name )
 {
     PB_ASSERT_SLOT( frag );
-    DelCanonical( frag, Canonical( name ) );
+    DelHeader( frag, FieldName{ name } );
 }
 
 void sipsnMessageFragmentDelHeaderCstr( SipsnMessageFragment **frag, const char *name, int64_t nameLength )
 {
     PB_ASSERT_SLOT( frag );
-    DelCanonical( frag, Canonical( name, nameLength ) );
+    DelHeader( frag, { name, nameLength } );
 }
 
 void sipsnMessageFragmentDelHeaderWcstr( SipsnMessageFragment **frag, const wchar_t *name, int64_t nameLength )
 {
     PB_ASSERT_SLOT( frag );
-    DelCanonical( frag, Canonical( name, nameLength ) );
+    DelHeader( frag, { name, nameLength } );
 }
 
 void sipsnMessageFragmentClearHeaders( SipsnMessageFragment **frag )
 {
     PB_ASSERT_SLOT( frag );
     PB_UNSHARE( frag );
-    pbDictClear( &( *frag )->headers );
+    pb::Del( ( *frag )->received );
+    pb::Del( ( *frag )->inReceived );
+    pb::Del( ( *frag )->known );
+    pb::Del( ( *frag )->inKnown );
+    pb::Del( ( *frag )->others );
 }
 
 PbVector *sipsnMessageFragmentHeadersVector( SipsnMessageFragment *frag )
 {
     PB_ASSERT( frag );
-    return pbDictValuesVector( frag->headers );
+
+    struct Collect
+    {
+        SipsnMessageFragment *frag;
+        pb::Ref< PbVector >   headers{ pbVectorCreate() };
+
+        void Add( SipsnMessageHeader *owned ) { pb___VectorAppendOwned( headers.Slot(), pb::AsObj( owned ) ); }
+        void Received( int64_t first, int64_t end ) { Add( MakeHeader( frag, first, end ) ); }
+        void Header( SipsnMessageHeader *header ) { Add( pb::Retain( header ) ); }
+    } collect{ frag };
+    sipsn::FieldWalk{ frag, collect }.All();
+    return collect.headers.Detach();
 }
 
 // ---- The body --------------------------------------------------------------------------------------

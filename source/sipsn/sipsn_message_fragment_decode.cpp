@@ -1,8 +1,8 @@
 // Decoding: the bytes of a message into a fragment.
 //
-// Lines are cut in the bytes, where CR, LF, ":" and blanks are always themselves, and each value is converted to text
-// once, straight into the string that keeps it. Text that is not well-formed UTF-8 fails wherever it stands: what is
-// not in a value is a name, a method or a version, which are ASCII.
+// Lines are cut in the bytes, where CR, LF, ":" and blanks are always themselves. Fields of known names go into a table
+// as bytes, and become objects only when somebody asks for them. Text that is not well-formed UTF-8 fails wherever it
+// stands: what is not in a value is a name, a method or a version, which are ASCII.
 #include "sipsn_message_fragment.h"
 
 #include "sipsn_header_names.h"
@@ -89,77 +89,74 @@ StartLine TryDecodeStartLine( SipsnMessageFragment **frag, Bytes line )
     return TryDecodeRequestLine( frag, first, rest.First( secondSpace ), rest.From( secondSpace + 1 ) );
 }
 
-// The headers that are decoded so far: those of known names by the number of the name, which is their order, so that
-// they are found at once and come to the dictionary in its order. The others are in the dictionary from the start.
-class DecodedHeaders
+// The fields that are decoded so far: lines of known names for the table, and headers of all others.
+class DecodedFields
 {
 public:
-    explicit DecodedHeaders( SipsnMessageFragment *frag ) : frag_{ frag }, headers_{ &frag->headers } {}
-    DecodedHeaders( const DecodedHeaders & ) = delete;
-    ~DecodedHeaders()
-    {
-        ForEachKnown( [ & ]( int64_t number ) { pb::Release( known_[ number ] ); } );
-    }
+    explicit DecodedFields( SipsnMessageFragment *frag ) : frag_{ frag } {}
 
-    // The value, whose reference is taken over, becomes the last line of the header of a known name.
-    void AddLine( int64_t number, PbString *value )
-    {
-        uint64_t      &word = present_[ number / 64 ];
-        const uint64_t bit  = uint64_t( 1 ) << ( number % 64 );
-        if( word & bit )
-            AppendLineOwned( known_[ number ], value );
-        else
-            known_[ number ] = CreateHeader( pb::Retain( HeaderNameAt( number ) ), value );
-        word |= bit;
-    }
+    void Add( int64_t number, Bytes value ) { table_.Add( number, value ); }
 
-    // The same for the header of another name. The name's reference is taken over as well.
-    void AddLine( PbString *name, PbString *value )
+    // The same for a name that is not known. The references are taken over.
+    void Add( PbString *name, PbString *value )
     {
-        if( PbObj **slot = pb___DictSlot( headers_, name ) ) {
+        if( !frag_->others ) frag_->others = pbDictCreate();
+        if( PbObj **slot = pb___DictSlot( &frag_->others, name ) ) {
             AppendLineOwned( reinterpret_cast< SipsnMessageHeader * >( *slot ), value );
             pb::Release( name );
         } else
-            pb___DictSetOwned( headers_, name, pb::AsObj( CreateHeader( pb::Retain( name ), value ) ) );
+            pb___DictSetOwned( &frag_->others, name, pb::AsObj( CreateOtherHeader( pb::Retain( name ), value ) ) );
     }
 
-    // Builds the dictionary from the larger group, known names or others, and inserts the smaller one into it.
-    void MoveToDict()
+    // Takes over memory that values are in.
+    void Keep( PbBuffer *owned )
     {
-        frag_->mayHold   = int64_t( present_[ 0 ] | present_[ 2 ] );
-        frag_->mayHold64 = int64_t( present_[ 1 ] );
-        const int64_t knownCount =
-            std::popcount( present_[ 0 ] ) + std::popcount( present_[ 1 ] ) + std::popcount( present_[ 2 ] );
-        const int64_t     otherCount = pbDictLength( *headers_ );
-        pb::Ref< PbDict > others;
-        if( otherCount <= knownCount )
-            others = pb::Ref{ std::exchange( *headers_, pb___DictCreateWithCapacity( knownCount + otherCount ) ) };
-        const auto insert = others ? pb___DictAppendOwned : pb___DictSetOwned; // numbers are in the order of names
-        ForEachKnown( [ & ]( int64_t number ) {
-            insert( headers_, pb::Retain( known_[ number ]->name ), pb::AsObj( known_[ number ] ) );
-        } );
-        std::ranges::fill( present_, 0 );
-        for( int64_t at = 0; others && at < otherCount; ++at )
-            pb___DictSetOwned( headers_, pbDictKeyAt( others.Get(), at ), pbDictValueAt( others.Get(), at ) );
+        if( !kept_ ) kept_ = pb::Ref{ pbVectorCreate() };
+        pb___VectorAppendOwned( kept_.Slot(), pb::AsObj( owned ) );
+    }
+
+    void MoveToFragment()
+    {
+        frag_->received   = table_.MakeTable();
+        frag_->inReceived = table_.Names();
     }
 
 private:
-    template< class Visit > void ForEachKnown( Visit visit )
-    {
-        for( size_t word = 0; word < std::size( present_ ); ++word )
-            for( uint64_t bits = present_[ word ]; bits != 0; bits &= bits - 1 )
-                visit( int64_t( word ) * 64 + std::countr_zero( bits ) );
-    }
-
-    static_assert( headerNameCount <= 192 );
-    uint64_t              present_[ 3 ] = {}; // one bit for each known name
-    SipsnMessageHeader   *known_[ headerNameCount ];
     SipsnMessageFragment *frag_;
-    PbDict              **headers_;
+    FieldTableBuilder     table_;
+    pb::Ref< PbVector >   kept_;
 };
 
+bool IsAscii( Bytes text )
+{
+    uint32_t notAscii = 0;
+    int64_t  at       = 0;
+    for( ; at + 16 <= text.length; at += 16 ) notAscii |= pb::Block::Load( text.data + at ).NotAscii();
+    for( ; at < text.length; ++at ) notAscii |= text.data[ at ] & 0x80u;
+    return notAscii == 0;
+}
+
+bool IsUtf8( Bytes text ) { return IsAscii( text ) || pb::Ref{ TextOf( text ) }; }
+
+// Takes a field as nearly all are off the front: a known name, a colon behind it, and one line.
+bool TakePlainField( DecodedFields &fields, Bytes &lines, bool ascii )
+{
+    const HeaderNameToken name = ScanHeaderName( lines.data, lines.length );
+    if( name.number < 0 || name.length == lines.length || lines.data[ name.length ] != ':' ) return false;
+
+    const Bytes   rest   = SkipBlanks( lines.From( name.length + 1 ) );
+    const int64_t length = FindLineEnd( rest );
+    const Bytes   behind = SkipLineEnd( rest.From( length ) );
+    if( !behind.Empty() && IsBlank( behind.Front() ) ) return false;
+    const Bytes value = TrimEnd( rest.First( length ) );
+    if( !ascii && !IsUtf8( value ) ) return false;
+    fields.Add( name.number, value );
+    lines = behind;
+    return true;
+}
+
 // Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
-bool TryDecodeField( DecodedHeaders &headers, Bytes field )
+bool TryDecodeField( DecodedFields &fields, Bytes field )
 {
     const HeaderNameToken name = ScanHeaderName( field.data, field.length );
     if( name.length == 0 ) return false;
@@ -167,12 +164,14 @@ bool TryDecodeField( DecodedHeaders &headers, Bytes field )
     if( rest.Empty() || rest.Front() != ':' ) return false;
     rest = SkipBlanks( rest.From( 1 ) );
 
-    PbString *value = pb___StringTryCreateFromUtf8( rest.data, rest.length );
-    if( !value ) return false;
-    if( name.number >= 0 )
-        headers.AddLine( name.number, value );
-    else
-        headers.AddLine( CapitaliseHeaderName( field.data, name.length ), value );
+    if( name.number >= 0 ) {
+        if( !IsUtf8( rest ) ) return false;
+        fields.Add( name.number, rest );
+    } else {
+        PbString *value = TextOf( rest );
+        if( !value ) return false;
+        fields.Add( CapitaliseHeaderName( field.data, name.length ), value );
+    }
     return true;
 }
 
@@ -183,23 +182,29 @@ bool Refuse( Refusal *refusal, Refusal::Part part, Bytes where )
     return false;
 }
 
-bool TryDecodeFields( DecodedHeaders &headers, Bytes lines, Refusal *refusal )
+bool TryDecodeFields( DecodedFields &fields, Bytes lines, Refusal *refusal )
 {
-    FieldCutter field{ lines };
-    while( field.Next() )
-        if( !TryDecodeField( headers, field.Text() ) ) return Refuse( refusal, Refusal::field, field.Lines() );
+    const bool ascii = IsAscii( lines );
+    while( !lines.Empty() ) {
+        if( TakePlainField( fields, lines, ascii ) ) continue;
+        FieldCutter field{ lines };
+        if( !field.Next() ) return true;
+        if( !TryDecodeField( fields, field.Text() ) ) return Refuse( refusal, Refusal::field, field.Lines() );
+        if( PbBuffer *copy = field.DetachCopy() ) fields.Keep( copy );
+        lines = field.Rest();
+    }
     return true;
 }
 
 // Sets the value of the last Content-Length, -1 when there is none; false when it is not a non-negative integer.
 bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
 {
-    SipsnMessageHeader *header = PeekContentLength( frag );
-    const int64_t       count  = header ? LineCount( header ) : 0;
-    if( count == 0 ) return true;
+    constexpr int64_t number = HeaderNumber( "Content-Length" );
+    if( !frag->inReceived.Has( number ) ) return true;
 
-    const PbString *line = PeekLine( header, count - 1 );
-    *contentLength       = DecodeInt( line->chs, line->length, INT64_MAX );
+    FieldLines lines{ frag, number };
+    const Span line = lines.At( lines.Count() - 1 );
+    *contentLength  = DecodeInt( line.chs, line.length, INT64_MAX );
     return *contentLength >= 0;
 }
 
@@ -237,9 +242,9 @@ SipsnMessageFragment *TryDecodeHeaders( Bytes head, int64_t *contentLength, Refu
     if( startLine != StartLine::read ) Refuse( refusal, Refusal::startLine, first );
     if( startLine == StartLine::malformed ) return nullptr;
 
-    DecodedHeaders headers{ frag.Get() };
-    if( !TryDecodeFields( headers, startLine == StartLine::read ? lines : head, refusal ) ) return nullptr;
-    headers.MoveToDict();
+    DecodedFields fields{ frag.Get() };
+    if( !TryDecodeFields( fields, startLine == StartLine::read ? lines : head, refusal ) ) return nullptr;
+    fields.MoveToFragment();
     if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) {
         Refuse( refusal, Refusal::contentLength, {} );
         return nullptr;

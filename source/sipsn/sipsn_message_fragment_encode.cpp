@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr int64_t contentLength = sipsn::HeaderNumber( "Content-Length" );
+
 // A number in as many digits as it needs, which for a status code are three.
 class NumberText
 {
@@ -62,10 +64,30 @@ public:
     void VisitAll()
     {
         VisitStartLine();
-        contentLength_ = sipsn::PeekContentLength( frag_ );
-        pb___DictVisitValues( frag_->headers, VisitField, this );
-        if( !contentLength_ ) VisitContentLength();
+        sipsn::FieldWalk{ frag_, *this }.All();
+        VisitRun();
+        if( !sipsn::HasKnown( frag_, contentLength ) ) VisitContentLength();
         visit_( "\r\n" );
+    }
+
+    // Lines that stand one behind the other in the table are one piece.
+    void Received( int64_t first, int64_t end )
+    {
+        if( frag_->received->NumberAt( first ) == contentLength ) return VisitContentLength();
+        const sipsn::Bytes lines = frag_->received->LinesOf( first, end );
+        if( run_.End() != lines.data ) VisitRun();
+        run_ = run_.Empty() ? lines : sipsn::Bytes{ run_.data, run_.length + lines.length };
+    }
+    void Header( SipsnMessageHeader *header )
+    {
+        if( header->number == contentLength ) return VisitContentLength();
+        VisitRun();
+        for( int64_t at = 0, length = sipsn::LineCount( header ); at < length; ++at ) {
+            visit_( header->name );
+            visit_( ": " );
+            visit_( sipsn::PeekLine( header, at ) );
+            visit_( "\r\n" );
+        }
     }
 
 private:
@@ -95,30 +117,15 @@ private:
         VisitText( frag_->version->protocolVersion );
     }
 
-    static void VisitField( void *pieces, PbObj *field )
+    void VisitRun()
     {
-        auto *self = static_cast< Pieces * >( pieces );
-
-        auto *header = reinterpret_cast< SipsnMessageHeader * >( field );
-        if( header == self->contentLength_ )
-            self->VisitContentLength();
-        else if( header->onlyLine )
-            self->VisitLine( header->name, header->onlyLine );
-        else
-            for( int64_t at = 0, length = sipsn::LineCount( header ); at < length; ++at )
-                self->VisitLine( header->name, sipsn::PeekLine( header, at ) );
-    }
-
-    void VisitLine( PbString *name, PbString *line )
-    {
-        visit_( name );
-        visit_( ": " );
-        visit_( line );
-        visit_( "\r\n" );
+        const sipsn::Bytes run = std::exchange( run_, {} );
+        if( !run.Empty() ) visit_( { reinterpret_cast< const char * >( run.data ), size_t( run.length ) } );
     }
 
     void VisitContentLength()
     {
+        VisitRun();
         visit_( "Content-Length: " );
         visit_( texts_.contentLength.View() );
         visit_( "\r\n" );
@@ -134,10 +141,10 @@ private:
     SipsnMessageFragment *frag_;
     const MadeTexts      &texts_;
     Visitor              &visit_;
-    SipsnMessageHeader   *contentLength_ = nullptr;
+    sipsn::Bytes          run_; // that is not visited yet
 };
 
-// Adds up code points: the length in bytes, as long as all are ASCII.
+// Adds up code points: the length in bytes, as long as all strings are ASCII. What was received counts in bytes.
 struct CharCounter
 {
     int64_t length = 0;

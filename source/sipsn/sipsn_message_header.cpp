@@ -15,28 +15,40 @@ SIPSN_DEFINE_TYPE( SipsnMessageHeader, sipsnMessageHeader, SIPSN_MESSAGE_HEADER,
 static constexpr pb::ConstantString nameKey{ "name" };
 static constexpr pb::ConstantString linesKey{ "lines" };
 
-static SipsnMessageHeader *CreateOwning( PbString *name, PbString *onlyLine, PbVector *linesVector )
+static SipsnMessageHeader *CreateOf( int64_t number )
 {
     SipsnMessageHeader *header = pb::New< SipsnMessageHeader >();
-    header->name               = name;
-    header->onlyLine           = onlyLine;
-    header->linesVector        = linesVector;
+    header->name               = sipsn::HeaderNameAt( number );
+    header->number             = number;
     return header;
 }
 
-SipsnMessageHeader *sipsn::CreateHeader( PbString *name, PbVector *lines )
+SipsnMessageHeader *sipsn::CreateHeader( int64_t number, PbVector *lines )
 {
-    return CreateOwning( name, nullptr, lines );
+    SipsnMessageHeader *header = CreateOf( number );
+    header->linesVector        = lines;
+    return header;
 }
-SipsnMessageHeader *sipsn::CreateHeader( PbString *name, PbString *line )
+SipsnMessageHeader *sipsn::CreateHeader( int64_t number, PbString *line )
 {
-    return CreateOwning( name, line, nullptr );
+    SipsnMessageHeader *header = CreateOf( number );
+    header->onlyLine           = line;
+    return header;
+}
+SipsnMessageHeader *sipsn::CreateOtherHeader( PbString *name, PbString *line )
+{
+    SipsnMessageHeader *header = pb::New< SipsnMessageHeader >();
+    header->name               = name;
+    header->onlyLine           = line;
+    return header;
 }
 
 SipsnMessageHeader *sipsnMessageHeaderCreate( PbString *name )
 {
     PB_ASSERT( sipsnMessageHeaderNameOk( name ) );
-    return CreateOwning( sipsnMessageHeaderNameNormalize( name ), nullptr, nullptr );
+    const int64_t number = sipsn::ScanHeaderName( name->chs, name->length ).number;
+    if( number >= 0 ) return CreateOf( number );
+    return sipsn::CreateOtherHeader( sipsnMessageHeaderNameNormalize( name ), nullptr );
 }
 
 SipsnMessageHeader *sipsnMessageHeaderCreateCstr( const char *name, int64_t nameLength )
@@ -71,6 +83,7 @@ PbString *sipsnMessageHeaderName( SipsnMessageHeader *header ) { return PB_GET( 
 void sipsnMessageHeaderSetName( SipsnMessageHeader **header, PbString *name )
 {
     PB_SET( header, name, sipsnMessageHeaderNameOk( name ), sipsnMessageHeaderNameNormalize( name ) );
+    ( *header )->number = sipsn::ScanHeaderName( ( *header )->name->chs, ( *header )->name->length ).number;
 }
 
 void sipsnMessageHeaderSetNameCstr( SipsnMessageHeader **header, const char *name, int64_t nameLength )
@@ -136,6 +149,48 @@ void sipsn::AppendLineOwned( SipsnMessageHeader *header, PbString *line )
     else
         pb___VectorAppendOwned( LinesVectorOf( header ), pbStringObj( line ) );
 }
+
+// ---- Reading lines wherever they are ---------------------------------------------------------------
+
+sipsn::FieldLines::FieldLines( SipsnMessageFragment *frag, int64_t number )
+{
+    if( frag->inReceived.Has( number ) ) {
+        const FieldTable::Range range = frag->received->Find( number );
+        table_                        = frag->received;
+        first_                        = range.first;
+        count_                        = range.count;
+    } else {
+        header_ = PeekKnown( frag, number );
+        count_  = LineCount( header_ );
+    }
+}
+
+// Behind the lines of a table there is always room for a block.
+sipsn::Span sipsn::FieldLines::At( int64_t index )
+{
+    if( header_ ) {
+        const PbString *line = PeekLine( header_, index );
+        return { line->chs, line->length };
+    }
+    const Bytes value    = table_->ValueAt( first_ + index );
+    uint32_t    notAscii = 0;
+    if( value.length <= usual )
+        for( int64_t at = 0; at < value.length; at += 16 ) {
+            const pb::Block block = pb::Block::Load( value.data + at );
+            notAscii |= block.NotAscii();
+            block.Widen( chs_ + at );
+        }
+    if( value.length <= usual && notAscii == 0 ) return { chs_, value.length };
+    long_ = pb::Ref{ TextOf( value ) };
+    return { long_->chs, long_->length };
+}
+
+PbString *sipsn::FieldLines::TextAt( int64_t index ) const
+{
+    return header_ ? pb::Retain( PeekLine( header_, index ) ) : TextOf( table_->ValueAt( first_ + index ) );
+}
+
+// ---- Comparing -------------------------------------------------------------------------------------
 
 int64_t SipsnMessageHeader::CompareOrder::Compare( SipsnMessageHeader &a, SipsnMessageHeader &b )
 {

@@ -2,6 +2,8 @@
 // part of the public interface.
 #pragma once
 
+#include "sipsn_cursor.h"
+#include "sipsn_field_table.h"
 #include "sipsn_internal.h"
 #include "sipsn_message.h"
 #include "sipsn_message_lines.h"
@@ -25,11 +27,12 @@ struct SipsnMessageHeader
     PbString *name;
     PbString *onlyLine;    // null when there is none, and when there is `linesVector`
     PbVector *linesVector; // null as long as there is one line or none; it may hold any number
+    int64_t   number;      // of the name, -1 when it is no known one
 
     static constexpr auto Members()
     {
-        return pb::Members{ &SipsnMessageHeader::name, &SipsnMessageHeader::onlyLine,
-                            &SipsnMessageHeader::linesVector };
+        return pb::Members{ &SipsnMessageHeader::name, &SipsnMessageHeader::onlyLine, &SipsnMessageHeader::linesVector,
+                            &SipsnMessageHeader::number };
     }
     struct CompareOrder
     {
@@ -37,17 +40,22 @@ struct SipsnMessageHeader
     };
 };
 
+// A header of a known name is in one of two places: what was decoded, in the table, as long as nobody changes it; what
+// was set, as an object.
 struct SipsnMessageFragment
 {
-    PbObj         obj;
-    PbString     *requestMethod;
-    PbString     *requestIri;
-    int64_t       responseStatusCode;
-    PbString     *responseReasonPhrase;
-    SipsnVersion *version;
-    PbDict       *headers;            // canonical name to SipsnMessageHeader
-    int64_t       mayHold, mayHold64; // a bit for each known name: clear when there is no such header field
-    PbBuffer     *body;
+    PbObj              obj;
+    PbString          *requestMethod;
+    PbString          *requestIri;
+    int64_t            responseStatusCode;
+    PbString          *responseReasonPhrase;
+    SipsnVersion      *version;
+    sipsn::FieldTable *received;   // also of names that are no longer there; null: of none
+    sipsn::NameSet     inReceived; // those that are
+    PbVector          *known;      // SipsnMessageHeader in the order of names; null: none
+    sipsn::NameSet     inKnown;
+    PbDict            *others; // of all other names, canonical name to SipsnMessageHeader; null: none
+    PbBuffer          *body;
 
     static constexpr auto Members()
     {
@@ -56,9 +64,11 @@ struct SipsnMessageFragment
                             &SipsnMessageFragment::responseStatusCode,
                             &SipsnMessageFragment::responseReasonPhrase,
                             &SipsnMessageFragment::version,
-                            &SipsnMessageFragment::headers,
-                            &SipsnMessageFragment::mayHold,
-                            &SipsnMessageFragment::mayHold64,
+                            &SipsnMessageFragment::received,
+                            &SipsnMessageFragment::inReceived,
+                            &SipsnMessageFragment::known,
+                            &SipsnMessageFragment::inKnown,
+                            &SipsnMessageFragment::others,
                             &SipsnMessageFragment::body };
     }
     using CompareOrder = pb::ByAddress;
@@ -131,9 +141,10 @@ bool          IsStartLine( Bytes line );
 SipsnVersion *TryDecodeVersion( Bytes text );
 int64_t       ReadStatusCode( Bytes digits ); // -1 when they are none, or make a number above 999
 
-// A header of a canonical name with these lines, or this one; the references are taken over.
-SipsnMessageHeader *CreateHeader( PbString *name, PbVector *lines );
-SipsnMessageHeader *CreateHeader( PbString *name, PbString *line );
+// A header of a known name with these lines, or this one; and one of another canonical name. References are taken over.
+SipsnMessageHeader *CreateHeader( int64_t number, PbVector *lines );
+SipsnMessageHeader *CreateHeader( int64_t number, PbString *line );
+SipsnMessageHeader *CreateOtherHeader( PbString *name, PbString *line );
 
 // Takes over the reference of the line. The header is the caller's own.
 void AppendLineOwned( SipsnMessageHeader *header, PbString *line );
@@ -150,20 +161,103 @@ inline PbString *PeekLine( const SipsnMessageHeader *header, int64_t index )
     return reinterpret_cast< PbString * >( pb___VectorPeek( header->linesVector, index ) );
 }
 
-// The header of a canonical name, without a reference of its own, or null.
-inline SipsnMessageHeader *PeekHeader( SipsnMessageFragment *frag, PbString *canonicalName )
+// Whether a fragment has a header of that known name.
+inline bool HasKnown( const SipsnMessageFragment *frag, int64_t number )
 {
-    return reinterpret_cast< SipsnMessageHeader * >( pb___DictPeek( frag->headers, canonicalName ) );
+    return frag->inReceived.Has( number ) || frag->inKnown.Has( number );
 }
 
-// Whether there may be a header of the known name of that number: 128 names apart, two share a bit. Setting a header
-// sets all bits.
-inline bool MayHold( const SipsnMessageFragment *frag, int64_t number )
-{
-    return ( ( number % 128 < 64 ? frag->mayHold : frag->mayHold64 ) >> ( number % 64 ) & 1 ) != 0;
-}
+// The header of a known name that is kept as an object, without a reference of its own, or null.
+SipsnMessageHeader *PeekKnown( SipsnMessageFragment *frag, int64_t number );
 
-// The fragment's Content-Length header, without a reference of its own, or null.
-SipsnMessageHeader *PeekContentLength( SipsnMessageFragment *frag );
+// The lines of a header field, to be read one after the other, wherever they are kept.
+class FieldLines
+{
+public:
+    explicit FieldLines( SipsnMessageHeader *header ) : header_{ header }, count_{ LineCount( header ) } {}
+
+    // Those of a known name that the fragment has.
+    FieldLines( SipsnMessageFragment *frag, int64_t number );
+
+    int64_t Count() const { return count_; }
+
+    // The line at an index below that, until the next is asked for.
+    Span At( int64_t index );
+
+    // The same as a new reference.
+    PbString *TextAt( int64_t index ) const;
+
+private:
+    // Lines of the usual length, of which no string is made.
+    static constexpr int64_t usual = 256;
+
+    SipsnMessageHeader *header_ = nullptr;
+    const FieldTable   *table_  = nullptr;
+    int64_t             first_  = 0; // line of the table
+    int64_t             count_  = 0;
+    pb::Ref< PbString > long_;
+    PbChar              chs_[ usual ];
+};
+
+// Visits the header fields of a fragment in the order of their names: `visit.Received( first, end )` for the lines of a
+// name that are in the table, `visit.Header( header )` for an object.
+template< class Visit > class FieldWalk
+{
+public:
+    FieldWalk( SipsnMessageFragment *frag, Visit &visit ) : frag_{ frag }, visit_{ visit } {}
+
+    void All()
+    {
+        if( frag_->others ) pb___DictVisitValues( frag_->others, VisitOther, this );
+        KnownBefore( nullptr );
+    }
+
+private:
+    static void VisitOther( void *walk, PbObj *field )
+    {
+        auto *self   = static_cast< FieldWalk   *>( walk );
+        auto *header = reinterpret_cast< SipsnMessageHeader * >( field );
+        self->KnownBefore( header->name );
+        self->visit_.Header( header );
+    }
+
+    // Known names in front of that one, all for null.
+    void KnownBefore( PbString *name )
+    {
+        for( ;; ) {
+            const int64_t received = NextReceived(), object = NextKnown();
+            const int64_t number = std::min( received, object );
+            if( number == headerNameCount || ( name && pbStringCompare( HeaderNameAt( number ), name ) > 0 ) ) return;
+            if( received > object ) {
+                visit_.Header( reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_++ ) ) );
+                continue;
+            }
+            const int64_t first = line_;
+            while( line_ < frag_->received->count && frag_->received->NumberAt( line_ ) == number ) ++line_;
+            visit_.Received( first, line_ );
+        }
+    }
+
+    int64_t NextReceived()
+    {
+        if( !frag_->received ) return headerNameCount;
+        for( ; line_ < frag_->received->count; ++line_ )
+            if( const int64_t number = frag_->received->NumberAt( line_ ); frag_->inReceived.Has( number ) )
+                return number;
+        return headerNameCount;
+    }
+    int64_t NextKnown()
+    {
+        if( !frag_->known || known_ == pbVectorLength( frag_->known ) ) return headerNameCount;
+        return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_ ) )->number;
+    }
+
+    SipsnMessageFragment *frag_;
+    Visit                &visit_;
+    int64_t               line_ = 0, known_ = 0;
+};
+
+// A new string of bytes that are well-formed UTF-8.
+inline PbString *TextOf( Bytes utf8 ) { return pb___StringTryCreateFromUtf8( utf8.data, utf8.length ); }
 
 } // namespace sipsn

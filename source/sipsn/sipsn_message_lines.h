@@ -69,13 +69,19 @@ inline int64_t FindLineEnd( Bytes text )
     return at;
 }
 
-// Takes one line off the front, with its line end: CR LF, a lone CR or a lone LF.
+// Without the line end it begins with: CR LF, a lone CR, a lone LF, or none at the end of the text.
+inline Bytes SkipLineEnd( Bytes text )
+{
+    if( text.Empty() ) return text;
+    return text.From( text.length > 1 && text.data[ 0 ] == '\r' && text.data[ 1 ] == '\n' ? 2 : 1 );
+}
+
+// Takes one line off the front, with its line end.
 inline Bytes TakeLine( Bytes &text )
 {
     const int64_t length = FindLineEnd( text );
     const Bytes   line   = text.First( length );
-    text                 = text.From( length );
-    if( !text.Empty() ) text = text.From( text.length > 1 && text.data[ 0 ] == '\r' && text.data[ 1 ] == '\n' ? 2 : 1 );
+    text                 = SkipLineEnd( text.From( length ) );
     return line;
 }
 
@@ -106,8 +112,12 @@ public:
         return joined_ ? Bytes{ pbBufferBacking( joined_.Get() ), pbBufferLength( joined_.Get() ) } : line_;
     }
 
-    // The field as it stands, from its name to its last line end.
+    // The field as it stands, from its name to its last line end; and what is behind it.
     Bytes Lines() const { return { line_.data, rest_.data - line_.data }; }
+    Bytes Rest() const { return rest_; }
+
+    // The copy, if there is one, for whoever wants the text longer than the cutter.
+    PbBuffer *DetachCopy() { return joined_.Detach(); }
 
 private:
     void Continue( Bytes line )

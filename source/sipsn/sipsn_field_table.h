@@ -1,0 +1,103 @@
+// The header fields of a message as they were received: their lines, as they are written again. A message is decoded
+// into this table, and headers are made of its lines when somebody asks for them. C++ only; never installed.
+#pragma once
+
+#include "sipsn_header_names.h"
+#include "sipsn_message_lines.h"
+
+#include <bit>
+
+namespace sipsn {
+
+// A set of known names, which are given by their numbers.
+struct NameSet
+{
+    uint64_t words[ 3 ] = {};
+
+    static uint64_t Bit( int64_t number ) { return uint64_t( 1 ) << ( number % 64 ); }
+
+    bool Has( int64_t number ) const { return ( words[ number / 64 ] & Bit( number ) ) != 0; }
+    void Add( int64_t number ) { words[ number / 64 ] |= Bit( number ); }
+    void Remove( int64_t number ) { words[ number / 64 ] &= ~Bit( number ); }
+
+    // Calls `visit( number )` in the order of the names.
+    template< class Visit > void ForEach( Visit visit ) const
+    {
+        for( size_t word = 0; word < std::size( words ); ++word )
+            for( uint64_t bits = words[ word ]; bits != 0; bits &= bits - 1 )
+                visit( int64_t( word ) * 64 + std::countr_zero( bits ) );
+    }
+
+    bool operator==( const NameSet & ) const = default;
+};
+static_assert( headerNameCount <= 192 );
+
+// Lines "Name: value" with their line ends, of known names only, in the order of the names; those of one name in the
+// order in which they came. An object that does not change. Behind the header stand, in the same block, where each line
+// ends, the number of its name, and the lines themselves, which are well-formed UTF-8.
+struct FieldTable
+{
+    PbObj   obj;
+    int64_t count;
+
+    // The lines of one name.
+    struct Range
+    {
+        int64_t first, count;
+    };
+    Range Find( int64_t number ) const; // which must be there
+
+    int64_t NumberAt( int64_t index ) const { return Numbers()[ index ]; }
+    Bytes   LinesOf( int64_t first, int64_t end ) const; // one behind the other
+    Bytes   ValueAt( int64_t index ) const;
+
+    const int64_t *Ends() const { return reinterpret_cast< const int64_t * >( this + 1 ); }
+    const uint8_t *Numbers() const { return reinterpret_cast< const uint8_t * >( Ends() + count ); }
+    const PbByte  *Text() const { return Numbers() + BlocksOf( count ); }
+
+    // A count of bytes rounded up to whole blocks, and at least one.
+    static int64_t BlocksOf( int64_t bytes ) { return ( bytes | 15 ) + 1; }
+};
+
+// Takes note of lines, in any order of their names, and makes the table.
+class FieldTableBuilder
+{
+public:
+    FieldTableBuilder() {}
+    FieldTableBuilder( const FieldTableBuilder & ) = delete;
+    ~FieldTableBuilder();
+
+    // A value in memory that stays until the table is made.
+    void Add( int64_t number, Bytes value );
+
+    const NameSet &Names() const { return names_; }
+    FieldTable    *MakeTable() const; // null when there are no lines
+
+private:
+    struct Row
+    {
+        Bytes   value;
+        int64_t next; // of the same name
+    };
+    static constexpr int64_t usual = 48; // more than most messages have
+
+    void Grow();
+
+    NameSet names_;
+    int64_t textLength_ = 0;
+    int64_t count_ = 0, capacity_ = usual;
+    Row    *rows_ = usualRows_;
+    Row     usualRows_[ usual ];
+    int64_t first_[ headerNameCount ], last_[ headerNameCount ]; // rows of the names that are there
+};
+
+} // namespace sipsn
+
+template<> struct pb::Kind< sipsn::NameSet >
+{
+    static constexpr sipsn::NameSet absent{};
+
+    static sipsn::NameSet Share( sipsn::NameSet member ) { return member; }
+    static void           Drop( sipsn::NameSet ) {}
+    static void           Free( sipsn::NameSet           &) {}
+};
