@@ -126,11 +126,18 @@ PbString *iri___ConvertScannedUri( const PbChar *chs, int64_t length )
 PbString *iriTryConvertToUri( PbString *iri )
 {
     PB_ASSERT( iri );
-    if( !iriGensValidatePart( IRI_GENS_PART_IRI, iri ) ) return nullptr;
+    return iriGensValidatePart( IRI_GENS_PART_IRI, iri ) ? iri___ConvertValidIri( iri ) : nullptr;
+}
+
+PbString *iri___ConvertValidIri( PbString *iri )
+{
+    PB_ASSERT( iri );
 
     const PbChar *begin = iri->chs;
     const PbChar *end   = begin + iri->length;
-    if( std::none_of( begin, end, []( PbChar ch ) { return ch >= 0x80; } ) ) return pb::Retain( iri );
+    uint32_t      bits  = 0; // to the end in any case, so that it is done several at a time
+    for( const PbChar *at = begin; at != end; ++at ) bits |= uint32_t( *at );
+    if( bits < 0x80 ) return pb::Retain( iri );
 
     const auto escape = [ & ]( Output &output ) {
         for( const PbChar *at = begin; at != end; ++at ) *at < 0x80 ? output.Put( *at ) : output.PutEscaped( *at );

@@ -30,4 +30,7 @@ PB_API int64_t iri___SkipPort( const PbChar *chs, int64_t length );
 // The IRI of a URI that iri___SkipIri covers, as a new string; see iriTryConvertFromUri.
 PB_API struct PbString *iri___ConvertScannedUri( const PbChar *chs, int64_t length );
 
+// The URI of an IRI that is known to be valid; see iriTryConvertToUri.
+PB_API struct PbString *iri___ConvertValidIri( struct PbString *iri );
+
 PB_END_DECLS

@@ -11,8 +11,7 @@ namespace sipsn {
 namespace {
 
 // "Via: " and so on, each in as many bytes, which are copied at once.
-using NameText                   = std::array< char, longestHeaderName >;
-constexpr int64_t separatorWidth = 2; // of ": ", as of a line end
+using NameText = std::array< char, longestHeaderName >;
 
 constexpr auto nameTexts = [] {
     std::array< NameText, headerNameCount > table{};
@@ -23,8 +22,6 @@ constexpr auto nameTexts = [] {
     }
     return table;
 }();
-
-int64_t NameWidth( int64_t number ) { return int64_t( headerNames[ number ].size() ) + separatorWidth; }
 
 PbSort sortOfTables = { .header   = {},
                         .module   = &sipsn___module,
@@ -76,23 +73,10 @@ void FieldTableBuilder::Grow()
     capacity_ *= 2;
 }
 
-void FieldTableBuilder::Add( int64_t number, Bytes value )
-{
-    if( count_ == capacity_ ) Grow();
-    if( names_.Has( number ) )
-        rows_[ last_[ number ] ].next = count_;
-    else
-        first_[ number ] = count_;
-    names_.Add( number );
-    last_[ number ] = count_;
-    rows_[ count_ ] = { value, -1 };
-    textLength_ += NameWidth( number ) + value.length + separatorWidth;
-    ++count_;
-}
-
 FieldTable *FieldTableBuilder::MakeTable() const
 {
     if( count_ == 0 ) return nullptr;
+    // Behind the lines there is room for a name, which is copied as a whole, and for a block.
     const int64_t size = int64_t( sizeof( FieldTable ) ) + count_ * int64_t( sizeof( int64_t ) ) +
                          FieldTable::BlocksOf( count_ ) + textLength_ + int64_t( sizeof( NameText ) );
 
@@ -105,7 +89,7 @@ FieldTable *FieldTableBuilder::MakeTable() const
     const PbByte *const begin = to;
     names_.ForEach( [ & ]( int64_t number ) {
         for( int64_t at = first_[ number ]; at >= 0; at = rows_[ at ].next ) {
-            std::memcpy( to, nameTexts[ size_t( number ) ].data(), sizeof( NameText ) ); // the value overwrites the end
+            std::memcpy( to, nameTexts[ size_t( number ) ].data(), sizeof( NameText ) );
             to += NameWidth( number );
             std::memcpy( to, rows_[ at ].value.data, size_t( rows_[ at ].value.length ) );
             to += rows_[ at ].value.length;

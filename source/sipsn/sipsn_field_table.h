@@ -5,9 +5,20 @@
 #include "sipsn_header_names.h"
 #include "sipsn_message_lines.h"
 
+#include <array>
 #include <bit>
 
 namespace sipsn {
+
+// How many bytes stand in front of a value and behind it: "Via: ", and the line end.
+inline constexpr int64_t separatorWidth = 2; // of ": ", as of a line end
+inline constexpr auto    nameWidths     = [] {
+    std::array< uint8_t, headerNameCount > table{};
+    for( size_t number = 0; number < table.size(); ++number )
+        table[ number ] = uint8_t( headerNames[ number ].size() + separatorWidth );
+    return table;
+}();
+inline int64_t NameWidth( int64_t number ) { return nameWidths[ size_t( number ) ]; }
 
 // A set of known names, which are given by their numbers.
 struct NameSet
@@ -68,7 +79,20 @@ public:
     ~FieldTableBuilder();
 
     // A value in memory that stays until the table is made.
-    void Add( int64_t number, Bytes value );
+    void Add( int64_t number, Bytes value )
+    {
+        if( count_ == capacity_ ) [[unlikely]]
+            Grow();
+        uint64_t      &word = names_.words[ number / 64 ];
+        const uint64_t bit  = NameSet::Bit( number );
+
+        int64_t &place    = word & bit ? rows_[ last_[ number ] ].next : first_[ number ];
+        place             = count_;
+        last_[ number ]   = count_;
+        rows_[ count_++ ] = { value, -1 };
+        textLength_ += NameWidth( number ) + value.length + separatorWidth;
+        word |= bit;
+    }
 
     const NameSet &Names() const { return names_; }
     FieldTable    *MakeTable() const; // null when there are no lines

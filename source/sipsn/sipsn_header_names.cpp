@@ -76,12 +76,12 @@ static bool SameName( const LowerName &a, const LowerName &b, size_t length )
     return true;
 }
 
-// Length and three letters, in whatever case, tell nearly all names apart.
-static constexpr size_t slotCount = 512;
+// Length and three letters, in whatever case, tell nearly all names apart: with these factors, two share a slot.
+static constexpr size_t slotCount = 1024;
 static constexpr size_t FirstSlot( const uint8_t *name, size_t length )
 {
     const auto letter = [ = ]( size_t n ) { return name[ n ] | 0x20u; };
-    return ( length * 23 + letter( 0 ) * 5 + letter( length / 2 ) * 37 + letter( length - 1 ) * 113 ) % slotCount;
+    return ( length * 35 + letter( 0 ) * 63 + letter( length / 2 ) * 61 + letter( length - 1 ) * 93 ) % slotCount;
 }
 
 static constexpr auto slots = [] {
@@ -138,40 +138,30 @@ template< class Ch > static HeaderNameToken Scan( const Ch *chs, int64_t length 
     return { at, -1 };
 }
 
-// The same for how fields usually begin: a known name of at least two characters and a colon. The number is -1 for all
-// others.
-static HeaderNameToken ScanCommonName( const PbByte *bytes, int64_t length )
+HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length ) { return Scan( chs, length ); }
+HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length ) { return Scan( bytes, length ); }
+
+HeaderNameToken ScanUsualHeaderName( const PbByte *bytes, int64_t length )
 {
-    if( length < 16 ) return { 0, -1 };
-    const pb::Block colon  = pb::Block::Of( ':' );
-    const pb::Block low    = pb::Block::Load( bytes );
-    pb::Block       high   = pb::Block::Of( 0 );
-    uint32_t        colons = low.Equal( colon );
-    if( colons == 0 && length >= 32 ) { // few names are so long
-        high   = pb::Block::Load( bytes + 16 );
-        colons = high.Equal( colon ) << 16;
-    }
-    const size_t size = size_t( std::countr_zero( colons ) ); // 32 when there is none
-    if( size < 2 || size > 31 ) return { 0, -1 };
+    if( length < 32 ) return { 0, -1 };
+    const pb::Block colon = pb::Block::Of( ':' );
+    const pb::Block low   = pb::Block::Load( bytes );
+    uint32_t        found = low.Equal( colon );
+    if( found == 0 ) found = pb::Block::Load( bytes + 16 ).Equal( colon ) << 16; // few names are so long
+    if( found == 0 ) return { 0, -1 };
+    const size_t size = size_t( std::countr_zero( found ) );
+    if( size < 2 ) return { int64_t( size ), size == 1 ? NumberOf( { Lower( bytes[ 0 ] ) }, 1 ) : -1 };
 
     const uint32_t  all      = ( uint32_t( 1 ) << size ) - 1;
     const pb::Block lowerLow = low.Lower();
     for( size_t slot = FirstSlot( bytes, size ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
-        const size_t at = slots[ slot ];
-        if( names[ at ].size() != size ) continue;
-        const uint8_t *name  = lowerNames[ at ].data();
-        uint32_t       equal = lowerLow.Equal( pb::Block::Load( name ) );
-        if( size > 16 ) equal |= high.Lower().Equal( pb::Block::Load( name + 16 ) ) << 16;
-        if( ( equal & all ) == all ) return { int64_t( size ), int64_t( at ) };
+        const LowerName &name  = lowerNames[ slots[ slot ] ];
+        uint32_t         equal = lowerLow.Equal( pb::Block::Load( name.data() ) );
+        if( size > 16 )
+            equal |= pb::Block::Load( bytes + 16 ).Lower().Equal( pb::Block::Load( name.data() + 16 ) ) << 16;
+        if( ( equal & all ) == all && name[ size ] == 0 ) return { int64_t( size ), slots[ slot ] };
     }
     return { 0, -1 };
-}
-
-HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length ) { return Scan( chs, length ); }
-HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length )
-{
-    const HeaderNameToken known = ScanCommonName( bytes, length );
-    return known.number >= 0 ? known : Scan( bytes, length );
 }
 
 // Tokens are ASCII, so that upper and lower case are too.

@@ -172,6 +172,10 @@ struct HeaderNameToken
 HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length );
 HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length );
 
+// The same for a known name with a colon behind it, in a text that goes on, as fields usually begin; the number is -1
+// for everything else.
+HeaderNameToken ScanUsualHeaderName( const PbByte *bytes, int64_t length );
+
 // A token in lower case but for the first letter of each word, as a new string.
 PbString *CapitaliseHeaderName( const PbChar *chs, int64_t length );
 PbString *CapitaliseHeaderName( const PbByte *bytes, int64_t length );

@@ -7,6 +7,7 @@
 #include "sipsn_method.h"
 #include "sipsn_reason_phrase.h"
 
+#include <algorithm>
 #include <cstring>
 
 using sipsn::StringFrom;
@@ -344,6 +345,14 @@ void DelHeader( SipsnMessageFragment **frag, const FieldName &name )
 
 } // namespace
 
+int64_t sipsn::FirstNumberBehind( PbString *name )
+{
+    const auto stands = []( std::string_view known, PbString *other ) {
+        return std::lexicographical_compare( known.begin(), known.end(), other->chs + 0, other->chs + other->length );
+    };
+    return std::lower_bound( std::begin( headerNames ), std::end( headerNames ), name, stands ) - headerNames;
+}
+
 SipsnMessageHeader *sipsn::PeekKnown( SipsnMessageFragment *frag, int64_t number )
 {
     if( !frag->inKnown.Has( number ) ) return nullptr;
@@ -453,7 +462,13 @@ PbVector *sipsnMessageFragmentHeadersVector( SipsnMessageFragment *frag )
         pb::Ref< PbVector >   headers{ pbVectorCreate() };
 
         void Add( SipsnMessageHeader *owned ) { pb___VectorAppendOwned( headers.Slot(), pb::AsObj( owned ) ); }
-        void Received( int64_t first, int64_t end ) { Add( MakeHeader( frag, first, end ) ); }
+        void Received( int64_t first, int64_t end )
+        {
+            for( int64_t at = first; at < end; first = at ) {
+                while( at < end && frag->received->NumberAt( at ) == frag->received->NumberAt( first ) ) ++at;
+                Add( MakeHeader( frag, first, at ) );
+            }
+        }
         void Header( SipsnMessageHeader *header ) { Add( pb::Retain( header ) ); }
     } collect{ frag };
     sipsn::FieldWalk{ frag, collect }.All();

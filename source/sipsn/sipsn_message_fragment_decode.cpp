@@ -127,32 +127,44 @@ private:
     pb::Ref< PbVector >   kept_;
 };
 
-bool IsAscii( Bytes text )
+bool IsUtf8( Bytes text )
 {
-    uint32_t notAscii = 0;
-    int64_t  at       = 0;
-    for( ; at + 16 <= text.length; at += 16 ) notAscii |= pb::Block::Load( text.data + at ).NotAscii();
-    for( ; at < text.length; ++at ) notAscii |= text.data[ at ] & 0x80u;
-    return notAscii == 0;
+    return std::all_of( text.data, text.End(), []( PbByte byte ) { return byte < 0x80; } ) || pb::Ref{ TextOf( text ) };
 }
 
-bool IsUtf8( Bytes text ) { return IsAscii( text ) || pb::Ref{ TextOf( text ) }; }
-
-// Takes a field as nearly all are off the front: a known name, a colon behind it, and one line.
-bool TakePlainField( DecodedFields &fields, Bytes &lines, bool ascii )
+// How many bytes stand before the line end. `ascii` is left alone or, where some of them may not be, set to false.
+int64_t FindLineEnd( Bytes text, bool &ascii )
 {
-    const HeaderNameToken name = ScanHeaderName( lines.data, lines.length );
-    if( name.number < 0 || name.length == lines.length || lines.data[ name.length ] != ':' ) return false;
+    const pb::Block cr = pb::Block::Of( '\r' ), lf = pb::Block::Of( '\n' );
+    uint32_t        notAscii = 0;
+    for( int64_t at = 0; at + 16 <= text.length; at += 16 ) {
+        const pb::Block block = pb::Block::Load( text.data + at );
+        const uint32_t  found = block.Equal( cr ) | block.Equal( lf );
+        notAscii |= block.NotAscii();
+        if( found == 0 ) continue;
+        if( notAscii != 0 ) ascii = false;
+        return at + std::countr_zero( found );
+    }
+    ascii = false;
+    return FindLineEnd( text );
+}
 
-    const Bytes   rest   = SkipBlanks( lines.From( name.length + 1 ) );
-    const int64_t length = FindLineEnd( rest );
-    const Bytes   behind = SkipLineEnd( rest.From( length ) );
-    if( !behind.Empty() && IsBlank( behind.Front() ) ) return false;
-    const Bytes value = TrimEnd( rest.First( length ) );
-    if( !ascii && !IsUtf8( value ) ) return false;
-    fields.Add( name.number, value );
-    lines = behind;
-    return true;
+// Takes fields as nearly all are off the front: a known name, a colon behind it, and one line. Stops in front of all
+// others, and of an empty line.
+void TakeUsualFields( DecodedFields &fields, Bytes &lines )
+{
+    for( ;; ) {
+        const HeaderNameToken name = ScanUsualHeaderName( lines.data, lines.length );
+        if( name.number < 0 ) return;
+        bool        ascii  = true;
+        const Bytes rest   = SkipBlanks( lines.From( name.length + 1 ) );
+        const Bytes value  = rest.First( FindLineEnd( rest, ascii ) );
+        const Bytes behind = SkipLineEnd( rest.From( value.length ) );
+        if( !behind.Empty() && IsBlank( behind.Front() ) ) return;
+        if( !ascii && !IsUtf8( value ) ) return;
+        fields.Add( name.number, TrimEnd( value ) );
+        lines = behind;
+    }
 }
 
 // Blanks may stand before the colon (RFC 3261 section 25.1, HCOLON).
@@ -184,16 +196,14 @@ bool Refuse( Refusal *refusal, Refusal::Part part, Bytes where )
 
 bool TryDecodeFields( DecodedFields &fields, Bytes lines, Refusal *refusal )
 {
-    const bool ascii = IsAscii( lines );
-    while( !lines.Empty() ) {
-        if( TakePlainField( fields, lines, ascii ) ) continue;
+    for( ;; ) {
+        TakeUsualFields( fields, lines );
         FieldCutter field{ lines };
         if( !field.Next() ) return true;
         if( !TryDecodeField( fields, field.Text() ) ) return Refuse( refusal, Refusal::field, field.Lines() );
         if( PbBuffer *copy = field.DetachCopy() ) fields.Keep( copy );
         lines = field.Rest();
     }
-    return true;
 }
 
 // Sets the value of the last Content-Length, -1 when there is none; false when it is not a non-negative integer.
@@ -207,6 +217,45 @@ bool TryReadContentLength( SipsnMessageFragment *frag, int64_t *contentLength )
     *contentLength  = DecodeInt( line.chs, line.length, INT64_MAX );
     return *contentLength >= 0;
 }
+
+// Decodes a header block in two steps, so that its end need not be known before most of it is taken.
+class HeaderDecoder
+{
+public:
+    HeaderDecoder( Bytes text, Refusal *refusal ) : rest_{ text }, refusal_{ refusal } {}
+
+    // The start line and the usual fields behind it. What is left begins with a line.
+    bool TryTakeFront()
+    {
+        Bytes           lines     = rest_;
+        const Bytes     first     = TakeLine( lines );
+        const StartLine startLine = TryDecodeStartLine( frag_.Slot(), first );
+        if( startLine != StartLine::read ) Refuse( refusal_, Refusal::startLine, first );
+        if( startLine == StartLine::malformed ) return false;
+        if( startLine == StartLine::read ) rest_ = lines;
+        TakeUsualFields( fields_, rest_ );
+        return true;
+    }
+
+    Bytes Rest() const { return rest_; }
+
+    // The fields that are left; the fragment, or null.
+    SipsnMessageFragment *TryTakeRest( Bytes fields, int64_t *contentLength )
+    {
+        if( contentLength ) *contentLength = -1;
+        if( !TryDecodeFields( fields_, fields, refusal_ ) ) return nullptr;
+        fields_.MoveToFragment();
+        if( !contentLength || TryReadContentLength( frag_.Get(), contentLength ) ) return frag_.Detach();
+        Refuse( refusal_, Refusal::contentLength, {} );
+        return nullptr;
+    }
+
+private:
+    pb::Ref< SipsnMessageFragment > frag_{ sipsnMessageFragmentCreate() };
+    DecodedFields                   fields_{ frag_.Get() };
+    Bytes                           rest_;
+    Refusal                        *refusal_;
+};
 
 } // namespace
 
@@ -234,22 +283,8 @@ bool IsStartLine( Bytes line )
 SipsnMessageFragment *TryDecodeHeaders( Bytes head, int64_t *contentLength, Refusal *refusal )
 {
     if( contentLength ) *contentLength = -1;
-
-    Bytes           lines = head;
-    const Bytes     first = TakeLine( lines );
-    pb::Ref         frag{ sipsnMessageFragmentCreate() };
-    const StartLine startLine = TryDecodeStartLine( frag.Slot(), first );
-    if( startLine != StartLine::read ) Refuse( refusal, Refusal::startLine, first );
-    if( startLine == StartLine::malformed ) return nullptr;
-
-    DecodedFields fields{ frag.Get() };
-    if( !TryDecodeFields( fields, startLine == StartLine::read ? lines : head, refusal ) ) return nullptr;
-    fields.MoveToFragment();
-    if( contentLength && !TryReadContentLength( frag.Get(), contentLength ) ) {
-        Refuse( refusal, Refusal::contentLength, {} );
-        return nullptr;
-    }
-    return frag.Detach();
+    HeaderDecoder decoder{ head, refusal };
+    return decoder.TryTakeFront() ? decoder.TryTakeRest( decoder.Rest(), contentLength ) : nullptr;
 }
 
 } // namespace sipsn
@@ -264,17 +299,21 @@ SipsnMessageFragment *sipsnMessageFragmentTryDecode( PbBuffer *buf )
 {
     PB_ASSERT( buf );
 
-    const PbByte *bytes     = pbBufferBacking( buf );
-    const int64_t length    = pbBufferLength( buf );
-    const int64_t headerEnd = sipsn::FindHeaderEnd( bytes, length, 0 );
-    const int64_t bodyBegin = headerEnd < 0 ? length : headerEnd + 4;
+    const sipsn::Bytes   all{ pbBufferBacking( buf ), pbBufferLength( buf ) };
+    sipsn::HeaderDecoder decoder{ all, nullptr };
+    if( !decoder.TryTakeFront() ) return nullptr;
+
+    // No header block ends in what is taken. Nearly always it ends right behind.
+    const int64_t taken     = decoder.Rest().data - all.data;
+    const int64_t headerEnd = sipsn::FindHeaderEnd( all.data, all.length, std::max( taken - 2, int64_t{ 0 } ) );
+    const int64_t bodyBegin = headerEnd < 0 ? all.length : headerEnd + 4;
+    const int64_t headEnd   = headerEnd < 0 ? all.length : headerEnd + 2;
 
     int64_t contentLength;
-    pb::Ref frag{
-        sipsn::TryDecodeHeaders( { bytes, headerEnd < 0 ? length : headerEnd + 2 }, &contentLength, nullptr ) };
+    pb::Ref frag{ decoder.TryTakeRest( decoder.Rest().First( headEnd - taken ), &contentLength ) };
     if( !frag ) return nullptr;
 
-    const int64_t available  = length - bodyBegin;
+    const int64_t available  = all.length - bodyBegin;
     const int64_t bodyLength = contentLength < 0 ? available : contentLength;
     if( bodyLength > available ) return nullptr;
     if( bodyLength > 0 ) frag->body = pbBufferRead( buf, bodyBegin, bodyLength );

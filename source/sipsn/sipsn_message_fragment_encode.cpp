@@ -8,7 +8,7 @@
 #include "sipsn_message_internal.h"
 #include "sipsn_token_internal.h"
 
-#include "iri/iri.h"
+#include "iri/iri_internal.h"
 #include "pb/pb_text.h"
 
 #include <cstring>
@@ -44,7 +44,7 @@ struct MadeTexts
     MadeTexts( SipsnMessageFragment *frag, int64_t bodyLength )
     {
         if( sipsnMessageFragmentIsRequest( frag ) ) {
-            uri = pb::Ref{ iriTryConvertToUri( frag->requestIri ) };
+            uri = pb::Ref{ iri___ConvertValidIri( frag->requestIri ) };
         } else if( sipsnMessageFragmentIsResponse( frag ) ) {
             statusCode.Set( frag->responseStatusCode );
             reasonPhrase = pb::Ref{ sipsn___ReasonPhraseEncode( frag->responseReasonPhrase ) };
@@ -65,23 +65,22 @@ public:
     {
         VisitStartLine();
         sipsn::FieldWalk{ frag_, *this }.All();
-        VisitRun();
         if( !sipsn::HasKnown( frag_, contentLength ) ) VisitContentLength();
         visit_( "\r\n" );
     }
 
-    // Lines that stand one behind the other in the table are one piece.
     void Received( int64_t first, int64_t end )
     {
-        if( frag_->received->NumberAt( first ) == contentLength ) return VisitContentLength();
-        const sipsn::Bytes lines = frag_->received->LinesOf( first, end );
-        if( run_.End() != lines.data ) VisitRun();
-        run_ = run_.Empty() ? lines : sipsn::Bytes{ run_.data, run_.length + lines.length };
+        const auto [ at, count ] = frag_->inReceived.Has( contentLength ) ? frag_->received->Find( contentLength )
+                                                                          : sipsn::FieldTable::Range{ end, 0 };
+        if( at < first || at >= end ) return VisitLines( first, end );
+        VisitLines( first, at );
+        VisitContentLength();
+        VisitLines( at + count, end );
     }
     void Header( SipsnMessageHeader *header )
     {
         if( header->number == contentLength ) return VisitContentLength();
-        VisitRun();
         for( int64_t at = 0, length = sipsn::LineCount( header ); at < length; ++at ) {
             visit_( header->name );
             visit_( ": " );
@@ -117,15 +116,15 @@ private:
         VisitText( frag_->version->protocolVersion );
     }
 
-    void VisitRun()
+    void VisitLines( int64_t first, int64_t end )
     {
-        const sipsn::Bytes run = std::exchange( run_, {} );
-        if( !run.Empty() ) visit_( { reinterpret_cast< const char * >( run.data ), size_t( run.length ) } );
+        if( first == end ) return;
+        const sipsn::Bytes lines = frag_->received->LinesOf( first, end );
+        visit_( { reinterpret_cast< const char * >( lines.data ), size_t( lines.length ) } );
     }
 
     void VisitContentLength()
     {
-        VisitRun();
         visit_( "Content-Length: " );
         visit_( texts_.contentLength.View() );
         visit_( "\r\n" );
@@ -141,7 +140,6 @@ private:
     SipsnMessageFragment *frag_;
     const MadeTexts      &texts_;
     Visitor              &visit_;
-    sipsn::Bytes          run_; // that is not visited yet
 };
 
 // Adds up code points: the length in bytes, as long as all strings are ASCII. What was received counts in bytes.

@@ -199,8 +199,11 @@ private:
     PbChar              chs_[ usual ];
 };
 
-// Visits the header fields of a fragment in the order of their names: `visit.Received( first, end )` for the lines of a
-// name that are in the table, `visit.Header( header )` for an object.
+// The number of the first known name behind another name.
+int64_t FirstNumberBehind( PbString *name );
+
+// Visits the header fields of a fragment in the order of their names: `visit.Received( first, end )` for lines of the
+// table, as many names at once as stand together, `visit.Header( header )` for an object.
 template< class Visit > class FieldWalk
 {
 public:
@@ -221,35 +224,38 @@ private:
         self->visit_.Header( header );
     }
 
-    // Known names in front of that one, all for null.
     void KnownBefore( PbString *name )
     {
-        for( ;; ) {
-            const int64_t received = NextReceived(), object = NextKnown();
-            const int64_t number = std::min( received, object );
-            if( number == headerNameCount || ( name && pbStringCompare( HeaderNameAt( number ), name ) > 0 ) ) return;
-            if( received > object ) {
-                visit_.Header( reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_++ ) ) );
-                continue;
-            }
-            const int64_t first = line_;
-            while( line_ < frag_->received->count && frag_->received->NumberAt( line_ ) == number ) ++line_;
-            visit_.Received( first, line_ );
+        const int64_t limit = name ? FirstNumberBehind( name ) : headerNameCount;
+        while( SipsnMessageHeader *header = PeekNext() ) {
+            if( header->number >= limit ) break;
+            ReceivedBefore( header->number );
+            visit_.Header( header );
+            ++known_;
         }
+        ReceivedBefore( limit );
     }
 
-    int64_t NextReceived()
+    SipsnMessageHeader *PeekNext()
     {
-        if( !frag_->received ) return headerNameCount;
-        for( ; line_ < frag_->received->count; ++line_ )
-            if( const int64_t number = frag_->received->NumberAt( line_ ); frag_->inReceived.Has( number ) )
-                return number;
-        return headerNameCount;
+        if( !frag_->known || known_ == pbVectorLength( frag_->known ) ) return nullptr;
+        return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_ ) );
     }
-    int64_t NextKnown()
+
+    void ReceivedBefore( int64_t limit )
     {
-        if( !frag_->known || known_ == pbVectorLength( frag_->known ) ) return headerNameCount;
-        return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_ ) )->number;
+        const FieldTable *table  = frag_->received;
+        const int64_t     count  = table ? table->count : 0;
+        const auto        passes = [ & ]( bool wanted ) { // over lines that are still there, or are not
+            const int64_t first = line_;
+            for( ; line_ < count && table->NumberAt( line_ ) < limit; ++line_ )
+                if( frag_->inReceived.Has( table->NumberAt( line_ ) ) != wanted ) break;
+            return line_ > first;
+        };
+        do {
+            const int64_t first = line_;
+            if( passes( true ) ) visit_.Received( first, line_ );
+        } while( passes( false ) );
     }
 
     SipsnMessageFragment *frag_;

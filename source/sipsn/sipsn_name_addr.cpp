@@ -3,7 +3,6 @@
 
 #include "sipsn_token_internal.h"
 
-#include "iri/iri.h"
 #include "iri/iri_internal.h"
 
 namespace sipsn {
@@ -49,10 +48,8 @@ void WriteNameAddr( TextWriter &out, PbString *displayName, PbString *iri )
         out.Take( sipsn___DisplayNameEncode( displayName ) );
         out.Char( ' ' );
     }
-    PbString *pbs = iriTryConvertToUri( iri );
-    PB_ASSERT( pbs );
     out.Char( '<' );
-    out.Take( pbs );
+    out.Take( iri___ConvertValidIri( iri ) );
     out.Char( '>' );
 }
 

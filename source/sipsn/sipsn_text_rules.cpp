@@ -2,6 +2,7 @@
 #include "sipsn_text_rules.h"
 
 #include "iri/iri_convert.h"
+#include "iri/iri_internal.h"
 
 // ---- Productions -----------------------------------------------------------------------------------
 
@@ -219,13 +220,6 @@ bool sipsnBareIriOk( PbString *bareIri )
 
 // ---- Reading and writing ---------------------------------------------------------------------------
 
-static PbString *UriOf( PbString *iri )
-{
-    PbString *uri = iriTryConvertToUri( iri );
-    PB_ASSERT( uri );
-    return uri;
-}
-
 static PbString *Enclosed( PbChar before, PbString *text, PbChar after )
 {
     sipsn::TextWriter out;
@@ -241,8 +235,14 @@ PbString *sipsn::EnclosedIriFromChars( const PbChar *chs, int64_t length )
     return iriTryConvertFromUri( uri.Get() );
 }
 
-PbString *sipsn::QuotedUri( PbString *iri ) { return sipsn___QuotableStringEncode( pb::Ref{ UriOf( iri ) }.Get() ); }
-PbString *sipsn::BracketedUri( PbString *iri ) { return Enclosed( '<', pb::Ref{ UriOf( iri ) }.Get(), '>' ); }
+PbString *sipsn::QuotedUri( PbString *iri )
+{
+    return sipsn___QuotableStringEncode( pb::Ref{ iri___ConvertValidIri( iri ) }.Get() );
+}
+PbString *sipsn::BracketedUri( PbString *iri )
+{
+    return Enclosed( '<', pb::Ref{ iri___ConvertValidIri( iri ) }.Get(), '>' );
+}
 
 PbString *sipsn::BareIriFromChars( const PbChar *chs, int64_t length )
 {
@@ -250,7 +250,7 @@ PbString *sipsn::BareIriFromChars( const PbChar *chs, int64_t length )
     return iri && sipsnBareIriOk( iri.Get() ) ? iri.Detach() : nullptr;
 }
 
-PbString *sipsn::BareUri( PbString *iri ) { return UriOf( iri ); }
+PbString *sipsn::BareUri( PbString *iri ) { return iri___ConvertValidIri( iri ); }
 
 PbString *sipsn::ContentIdFromChars( const PbChar *chs, int64_t length )
 {
