@@ -22,12 +22,3 @@ template< class Operation > void MeasureBytes( benchmark::State &state, int64_t 
     Measure( state, operation );
     state.SetBytesProcessed( state.iterations() * bytes );
 }
-
-// For operations on an input of so many items: also the time for one of them, which stays what it is where the cost is
-// linear.
-template< class Operation > void MeasureGrowth( benchmark::State &state, int64_t items, Operation operation )
-{
-    Measure( state, operation );
-    state.counters[ "per_item" ] = benchmark::Counter( double( items ), benchmark::Counter::kIsIterationInvariantRate |
-                                                                            benchmark::Counter::kInvert );
-}

@@ -1,8 +1,9 @@
-// Domain names: label by label, so that one in Unicode does not change the others, and without libidn2 where all is
-// ASCII.
+// Domain names: label by label, so that one in Unicode does not change the others. Only unusual labels are shown to
+// libidn2, which takes a microsecond for each.
 #include "in_dns.h"
 
 #include "in_internal.h"
+#include "in_label.h"
 #include "iri/iri_internal.h"
 #include "pb/pb_text.h"
 
@@ -11,9 +12,10 @@
 
 namespace {
 
-constexpr int64_t nameLimit  = 253; // RFC 1034 section 3.1: 255 octets, two of which are not characters
-constexpr int64_t labelLimit = 63;
+constexpr int64_t          nameLimit = 253; // RFC 1034 section 3.1: 255 octets, two of which are not characters
+constexpr std::string_view acePrefix = "xn--";
 
+using in::labelLimit;
 using Label = pb::Text;
 
 enum class LabelKind
@@ -28,7 +30,7 @@ enum class LabelKind
 bool IsLabelChar( PbChar ch ) { return pb::DigitValue( ch ) < 36 || ch == '-'; }
 
 // "xn--" and what should be Punycode, but need not.
-bool HasAcePrefix( Label label ) { return label.length > 4 && pb::StartsWithKeyword( label, "xn--" ); }
+bool HasAcePrefix( Label label ) { return label.length > 4 && pb::StartsWithKeyword( label, acePrefix ); }
 
 // Of a label in Unicode this says only that its ASCII characters are good: libidn2 judges the rest.
 LabelKind KindOf( Label label )
@@ -118,10 +120,27 @@ bool IsConverted( int status )
     return status == IDN2_OK;
 }
 
+// The same without libidn2, for most labels; false when it must be asked.
+bool TryAppendPlainAscii( PbString **string, Label label )
+{
+    PbChar lower[ labelLimit ];
+    std::transform( label.chs, label.chs + label.length, lower, pb::AsciiLower );
+    const Label plain{ lower, label.length };
+    if( !in::IsPlainLabel( plain ) ) return false;
+
+    char          text[ in::punycodeLimit ];
+    const int64_t length = in::EncodePunycode( plain, text );
+    if( int64_t( acePrefix.size() ) + length > labelLimit ) return false;
+    pbStringAppendCstr( string, acePrefix.data(), int64_t( acePrefix.size() ) );
+    pbStringAppendCstr( string, text, length );
+    return true;
+}
+
 // Appends the ASCII form of a label in Unicode; false when it has none. Lower case and NFC come first, as RFC 5895
 // section 2 has it; beyond these nothing is mapped, for what looks alike must not become alike.
 bool AppendAscii( PbString **string, Label label )
 {
+    if( TryAppendPlainAscii( string, label ) ) return true;
     pb::Ref lower{ pbStringCreateFromCharsCopy( label.chs, label.length ) };
     pbStringToLower( lower.Slot() );
 
@@ -148,24 +167,33 @@ PbString *TryMakeAscii( PbString *name )
     return survey.ok && !survey.hasUnicode ? ascii.Detach() : nullptr;
 }
 
-// Appends the Unicode form of an "xn--" label; false when there is none that converts back to the label.
+// The ASCII form of a name, the name itself when that is it; null for an invalid name.
+PbString *TryToAscii( PbString *name )
+{
+    const Survey survey = SurveyName( name );
+    if( !survey.ok ) return nullptr;
+    return survey.hasUnicode ? TryMakeAscii( name ) : pb::Retain( name );
+}
+
+// Appends the Unicode form of an "xn--" label; false when there is none that converts back to the label. A plain one
+// does: there is but one Punycode for it.
 bool AppendUnicode( PbString **string, Label label )
 {
-    char lower[ labelLimit + 1 ] = {}; // RFC 5891 section 5.3
-    for( int64_t n = 0; n < label.length; ++n ) lower[ n ] = char( pb::AsciiLower( label[ n ] ) );
+    char lower[ labelLimit ]; // RFC 5891 section 5.3
+    std::transform( label.chs, label.chs + label.length, lower, pb::AsciiLower );
 
-    uint32_t *text = nullptr;
-    bool      ok   = IsConverted( idn2_to_unicode_8z4z( lower, &text, IDN2_NO_TR46 ) );
-    if( ok ) {
-        const PbChar *chs = reinterpret_cast< const PbChar * >( text );
-        const Label   unicode{ chs, std::find( chs, chs + labelLimit + 1, 0 ) - chs };
-        pb::Ref       back{ pbStringCreate() };
-        ok = KindOf( unicode ) == LabelKind::Unicode && AppendAscii( back.Slot(), unicode ) &&
-             pbStringEqualsCstr( back.Get(), lower, -1 );
-        if( ok ) Append( string, unicode );
+    constexpr int64_t prefix = int64_t( acePrefix.size() );
+
+    PbChar      chs[ labelLimit ];
+    const Label unicode{ chs, in::DecodePunycode( lower + prefix, label.length - prefix, chs ) };
+    if( KindOf( unicode ) != LabelKind::Unicode ) return false;
+    if( !in::IsPlainLabel( unicode ) ) {
+        pb::Ref back{ pbStringCreate() };
+        if( !AppendAscii( back.Slot(), unicode ) || !pbStringEqualsCstr( back.Get(), lower, label.length ) )
+            return false;
     }
-    idn2_free( text );
-    return ok;
+    Append( string, unicode );
+    return true;
 }
 
 } // namespace
@@ -173,19 +201,21 @@ bool AppendUnicode( PbString **string, Label label )
 bool inDnsIdnaDomainNameOk( PbString *name )
 {
     PB_ASSERT( name );
-    const Survey survey = SurveyName( name );
-    if( !survey.ok || !survey.hasUnicode ) return survey.ok;
-    return bool( pb::Ref{ TryMakeAscii( name ) } );
+    return bool( pb::Ref{ TryToAscii( name ) } );
 }
 
 PbString *inDnsIdnaDomainNameToAscii( PbString *name )
 {
     PB_ASSERT( name );
-    const Survey survey = SurveyName( name );
-    if( survey.ok && !survey.hasUnicode ) return pb::Retain( name );
+    PbString *ascii = TryToAscii( name );
+    PB_ABORT_UNLESS( nullptr, "inDnsIdnaDomainNameOk( name )", ascii );
+    return ascii;
+}
 
-    PB_ASSERT( inDnsIdnaDomainNameOk( name ) );
-    return TryMakeAscii( name );
+PbString *in___DnsTryToAscii( PbString *name )
+{
+    PB_ASSERT( name );
+    return TryToAscii( name );
 }
 
 PbString *inDnsIdnaDomainNameToUnicode( PbString *name )

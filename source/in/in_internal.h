@@ -9,4 +9,7 @@ PB_API extern PbModule             in___module;
 PB_API extern const PbModuleRecord in___module_record;
 PB_API extern const char *const    in___module_version_string;
 
+// The name with every label in ASCII, a new reference; null when it is not a valid name.
+PB_API PbString *in___DnsTryToAscii( PbString *name );
+
 PB_END_DECLS

@@ -1,4 +1,4 @@
-// The vector of objects: one block that the elements follow, grown by doubling.
+// The vector of objects: one block that the elements follow, grown by doubling, with free room at either end.
 #include "pb_vector.h"
 
 #include "pb_internal.h"
@@ -6,13 +6,26 @@
 #include <algorithm>
 #include <cstring>
 
+// Nearly every vector has its elements from the first place on. One that has free places before them tells by the sign
+// of `capacity`, and how many by the first of these places, so that it costs the others neither memory nor time.
 struct PbVector
 {
     PbObj   obj;
     int64_t length;
-    int64_t capacity;
+    int64_t capacity; // its complement where the first place is free
 
-    PbObj **Items() { return reinterpret_cast< PbObj ** >( this + 1 ); }
+    PbObj **Places() { return reinterpret_cast< PbObj ** >( this + 1 ); }
+    bool    HasFront() const { return capacity < 0; }
+    int64_t Front() { return HasFront() ? reinterpret_cast< intptr_t >( Places()[ 0 ] ) : 0; }
+    int64_t Capacity() const { return HasFront() ? ~capacity : capacity; }
+    PbObj **Items() { return Places() + Front(); }
+
+    // Says where the elements are now.
+    void SetFront( int64_t front )
+    {
+        capacity = front > 0 ? ~Capacity() : Capacity();
+        if( front > 0 ) Places()[ 0 ] = reinterpret_cast< PbObj * >( intptr_t( front ) );
+    }
 
     struct Content
     {
@@ -48,37 +61,100 @@ PbVector *Create( int64_t capacity )
 
 PbVector *Copy( PbVector *source, int64_t capacity )
 {
-    PbVector *copy = Create( capacity );
-    for( int64_t i = 0; i < source->length; ++i ) copy->Items()[ i ] = pb::Retain( source->Items()[ i ] );
+    PbVector *copy  = Create( capacity );
+    PbObj   **items = source->Items();
+    for( int64_t i = 0; i < source->length; ++i ) copy->Places()[ i ] = pb::Retain( items[ i ] );
     copy->length = source->length;
     return copy;
 }
 
-// Makes the vector the caller's own, with room for one more element.
-void Reserve( PbVector **slot )
+void Move( PbObj **to, PbObj **from, int64_t count )
 {
-    PbVector     *vector = *slot;
-    const int64_t grown  = vector->length < vector->capacity
-                               ? vector->capacity
-                               : std::max( firstCapacity, vector->capacity + vector->capacity );
-    if( pb::IsShared( vector ) ) {
-        *slot = Copy( vector, grown );
-        pb::Release( vector );
-    } else if( grown > vector->capacity ) {
-        pb::Reallocate( *slot, headerItems + grown, itemSize );
-        ( *slot )->capacity = grown;
-    }
+    if( count > 0 ) std::memmove( to, from, size_t( count * itemSize ) );
+}
+
+// Moves all elements so that `front` places before them are free.
+void MoveItems( PbVector *vector, int64_t front )
+{
+    Move( vector->Places() + front, vector->Items(), vector->length );
+    vector->SetFront( front );
+}
+
+enum class End
+{
+    Front,
+    Back
+};
+
+// In so short a vector it is the end behind the place that moves, so that it has no free places at the front.
+constexpr int64_t shortLength = 32;
+
+// The end whose elements move when one of them comes or goes: that with fewer, of so many before and behind.
+End EndToMove( int64_t before, int64_t behind )
+{
+    return before < behind && before + behind > shortLength ? End::Front : End::Back;
+}
+
+int64_t Room( PbVector *vector, End end )
+{
+    const int64_t front = vector->Front();
+    return end == End::Front ? front : vector->Capacity() - vector->length - front;
+}
+
+int64_t Doubled( int64_t capacity ) { return std::max( firstCapacity, capacity + capacity ); }
+
+void Grow( PbVector **slot, End end )
+{
+    const int64_t capacity = ( *slot )->Capacity();
+    const int64_t grown    = Doubled( capacity );
+    const int64_t front    = ( *slot )->Front();
+    pb::Reallocate( *slot, headerItems + grown, itemSize );
+    ( *slot )->capacity = front > 0 ? ~grown : grown;
+    if( end == End::Front ) MoveItems( *slot, front + grown - capacity );
+}
+
+// Makes room for one more element at an end that has none, in a vector of the caller's own. What room there is at the
+// other end is halved, unless it is so little that a long vector would soon be moved again.
+void MakeRoom( PbVector **slot, End end )
+{
+    const int64_t length = ( *slot )->length;
+    const int64_t room   = ( *slot )->Capacity() - length;
+    if( room == 0 || ( length > shortLength && room < length / 2 ) ) return Grow( slot, end );
+    MoveItems( *slot, end == End::Front ? room - room / 2 : room / 2 );
 }
 
 void InsertOwned( PbVector **slot, int64_t index, PbObj *owned )
 {
-    Reserve( slot );
+    if( pb::IsShared( *slot ) ) {
+        PbVector     *shared   = *slot;
+        const int64_t capacity = shared->Capacity();
+        *slot                  = Copy( shared, shared->length < capacity ? capacity : Doubled( capacity ) );
+        pb::Release( shared );
+    }
+    const End end = EndToMove( index, ( *slot )->length - index );
+    if( Room( *slot, end ) == 0 ) MakeRoom( slot, end );
+
     PbVector *vector = *slot;
-    PbObj   **place  = vector->Items() + index;
-    if( const int64_t behind = vector->length - index; behind > 0 )
-        std::memmove( place + 1, place, size_t( behind * itemSize ) );
-    *place = owned;
+    PbObj   **items  = vector->Items();
+    if( end == End::Front ) {
+        const int64_t front = vector->Front() - 1;
+        Move( items - 1, items, index );
+        vector->SetFront( front );
+        items[ index - 1 ] = owned;
+    } else {
+        Move( items + index + 1, items + index, vector->length - index );
+        items[ index ] = owned;
+    }
     ++vector->length;
+}
+
+void AppendOwned( PbVector **slot, PbObj *owned )
+{
+    PbVector *vector = *slot;
+    if( vector->length < vector->capacity && !pb::IsShared( vector ) ) [[likely]]
+        vector->Places()[ vector->length++ ] = owned;
+    else
+        InsertOwned( slot, vector->length, owned );
 }
 
 } // namespace
@@ -87,15 +163,17 @@ template<> PbVector *pb::NewFrom( PbVector *source ) { return Copy( source, sour
 
 void PbVector::Content::Free( PbVector &vector )
 {
-    for( int64_t i = 0; i < vector.length; ++i ) pb::ReleaseAndPoison( vector.Items()[ i ] );
+    PbObj **items = vector.Items();
+    for( int64_t i = 0; i < vector.length; ++i ) pb::ReleaseAndPoison( items[ i ] );
 }
 
 int64_t PbVector::Content::Compare( PbVector &a, PbVector &b )
 {
     const int64_t common = std::min( a.length, b.length );
+    PbObj       **itemsA = a.Items(), **itemsB = b.Items();
     for( int64_t i = 0; i < common; ++i ) {
-        PbObj *itemA = a.Items()[ i ];
-        PbObj *itemB = b.Items()[ i ];
+        PbObj *itemA = itemsA[ i ];
+        PbObj *itemB = itemsB[ i ];
         if( itemA == itemB ) continue;
         if( const int64_t order = pbObjCompare( itemA, itemB ) ) return order;
     }
@@ -127,12 +205,20 @@ int64_t pbVectorLength( PbVector *vector )
     return vector->length;
 }
 
-PbObj *pb___VectorPeek( PbVector *vector, int64_t index )
+// Kept out of line, so that what nearly every call does needs no frame.
+[[gnu::noinline]] static PbObj *PeekWithChecks( PbVector *vector, int64_t index )
 {
     PB_ASSERT( vector );
     PB_ASSERT( index >= 0 );
     PB_ASSERT( index < vector->length );
     return vector->Items()[ index ];
+}
+
+PbObj *pb___VectorPeek( PbVector *vector, int64_t index )
+{
+    if( vector && uint64_t( index ) < uint64_t( vector->length ) && !vector->HasFront() ) [[likely]]
+        return vector->Places()[ index ];
+    return PeekWithChecks( vector, index );
 }
 
 PbObj *pbVectorAt( PbVector *vector, int64_t index ) { return pb::Retain( pb___VectorPeek( vector, index ) ); }
@@ -154,7 +240,7 @@ void pb___VectorAppendOwned( PbVector **vector, PbObj *owned )
 {
     PB_ASSERT_SLOT( vector );
     PB_ASSERT( owned );
-    InsertOwned( vector, ( *vector )->length, owned );
+    AppendOwned( vector, owned );
 }
 
 // An object is retained before the vector is made unique: it may be the vector itself.
@@ -162,7 +248,7 @@ void pbVectorAppend( PbVector **vector, PbObj *obj )
 {
     PB_ASSERT_SLOT( vector );
     PB_ASSERT( obj );
-    InsertOwned( vector, ( *vector )->length, pb::Retain( obj ) );
+    AppendOwned( vector, pb::Retain( obj ) );
 }
 
 void pbVectorPrepend( PbVector **vector, PbObj *obj )
@@ -222,10 +308,17 @@ void pbVectorDelAt( PbVector **vector, int64_t index )
     PB_ASSERT( index >= 0 );
     PB_ASSERT( index < ( *vector )->length );
     PB_UNSHARE( vector );
-    PbObj **place   = ( *vector )->Items() + index;
-    PbObj  *removed = *place;
-    --( *vector )->length;
-    std::memmove( place, place + 1, size_t( ( ( *vector )->length - index ) * itemSize ) );
+    PbObj       **items   = ( *vector )->Items();
+    PbObj        *removed = items[ index ];
+    const int64_t behind  = --( *vector )->length - index;
+    if( EndToMove( index, behind ) == End::Front ) {
+        const int64_t front = ( *vector )->Front() + 1;
+        Move( items + 1, items, index );
+        ( *vector )->SetFront( front );
+    } else {
+        Move( items + index, items + index + 1, behind );
+    }
+    if( ( *vector )->length == 0 ) ( *vector )->SetFront( 0 );
     pb::Release( removed );
 }
 
@@ -238,4 +331,5 @@ void pbVectorClear( PbVector **vector )
     }
     PbVector::Content::Free( **vector );
     ( *vector )->length = 0;
+    ( *vector )->SetFront( 0 );
 }

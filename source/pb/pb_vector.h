@@ -1,8 +1,8 @@
 /* PbVector: an ordered list of objects, null not among them.
  *
  * Indexes count from 0; one out of range aborts. Functions that take `PbVector **` replace *vector by a private copy
- * when it is shared. Appending is amortised O(1). Vectors compare element by element with pbObjCompare, then by length.
- * The text is the elements' texts joined by ", ". */
+ * when it is shared. Adding and deleting at either end is amortised O(1). Vectors compare element by element with
+ * pbObjCompare, then by length. The text is the elements' texts joined by ", ". */
 #ifndef PB_VECTOR_H
 #define PB_VECTOR_H
 

@@ -2,6 +2,7 @@
 #include "sipsn_host.h"
 
 #include "in/in_dns.h"
+#include "in/in_internal.h"
 #include "sipsn_char_class.h"
 #include "sipsn_skip_internal.h"
 #include "sipsn_token_frame.h"
@@ -10,9 +11,8 @@
 // The ASCII form of a host name in Unicode; null when it has none that is a host.
 static pb::Ref< PbString > TryToAscii( PbString *name )
 {
-    if( !inDnsIdnaDomainNameOk( name ) ) return {};
-    pb::Ref ascii{ inDnsIdnaDomainNameToAscii( name ) };
-    return sipsn::Matches( ascii.Get(), sipsn___SkipHost ) ? std::move( ascii ) : pb::Ref< PbString >{};
+    pb::Ref ascii{ in___DnsTryToAscii( name ) };
+    return ascii && sipsn::Matches( ascii.Get(), sipsn___SkipHost ) ? std::move( ascii ) : pb::Ref< PbString >{};
 }
 
 bool sipsnHostOk( PbString *host )
@@ -41,6 +41,7 @@ static bool IsPlainName( const PbChar *chs, int64_t length )
     return length > 0 && sipsn::SkipPlainName( chs, length ) == length;
 }
 
+// The name in Unicode is a host as well: its ASCII form is the one that was read, but for the case of letters.
 PbString *sipsn___HostTryDecode( const PbChar *chs, int64_t length )
 {
     PB_ASSERT( length >= 0 );
@@ -50,9 +51,7 @@ PbString *sipsn___HostTryDecode( const PbChar *chs, int64_t length )
 
     pb::Ref ascii{ pbStringCreateFromCharsCopy( chs, length ) };
     if( !inDnsIdnaDomainNameOk( ascii.Get() ) ) return nullptr;
-    pb::Ref unicode{ inDnsIdnaDomainNameToUnicode( ascii.Get() ) };
-    if( unicode.Get() == ascii.Get() ) return unicode.Detach();
-    return sipsnHostOk( unicode.Get() ) ? unicode.Detach() : nullptr;
+    return inDnsIdnaDomainNameToUnicode( ascii.Get() );
 }
 
 PbString *sipsn___HostEncode( PbString *host )

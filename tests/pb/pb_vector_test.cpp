@@ -38,7 +38,7 @@ TEST( PbVector, BehavesLikeAVector )
 
             const std::string text  = std::to_string( step % 100 );
             const pb::Ref     item  = Str( text );
-            const size_t      place = random() % ( model.size() + 1 );
+            const size_t      place = random() % 2 * ( random() % ( model.size() + 1 ) );
             const int64_t     index = int64_t( place );
             switch( random() % 7 ) {
             case 0:
@@ -67,7 +67,7 @@ TEST( PbVector, BehavesLikeAVector )
                 pbVectorDelAt( vector.Slot(), index );
                 model.erase( model.begin() + index );
             }
-            if( random() % 100 == 0 ) {
+            if( random() % 1'000 == 0 ) {
                 pbVectorClear( vector.Slot() );
                 model.clear();
             }
