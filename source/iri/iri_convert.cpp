@@ -117,10 +117,23 @@ PbString *iriTryConvertFromUri( PbString *uri )
     return iri ? iri : pb::Retain( uri );
 }
 
+// Copied at once, as nearly every URI stays as it is, and looked at on the way: to the end in any case, so that both
+// are done several characters at a time.
 PbString *iri___ConvertScannedUri( const PbChar *chs, int64_t length )
 {
-    PbString *iri = Converted( chs, chs + length );
-    return iri ? iri : pbStringCreateFromCharsCopy( chs, length );
+    PbString *iri  = pb___StringCreateUninitialized( length );
+    uint32_t  bits = 0, percent = 0;
+    for( int64_t at = 0; at < length; ++at ) {
+        const PbChar ch = chs[ at ];
+        bits |= uint32_t( ch );
+        percent |= uint32_t( ch == '%' );
+        iri->chs[ at ] = ch;
+    }
+    if( bits < 0x80 && percent == 0 ) return iri;
+    PbString *converted = Converted( chs, chs + length );
+    if( !converted ) return iri;
+    pb::Release( iri );
+    return converted;
 }
 
 PbString *iriTryConvertToUri( PbString *iri )

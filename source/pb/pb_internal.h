@@ -32,6 +32,9 @@ PB_API void pb___VectorAppendOwned( PbVector **vector, PbObj *owned );
 // The element at an index, without a reference of its own: valid while the vector is unchanged and referenced.
 PB_API PbObj *pb___VectorPeek( PbVector *vector, int64_t index );
 
+// All elements, one behind the other, in the same way.
+PB_API PbObj *const *pb___VectorPeekAll( PbVector *vector );
+
 // An empty dictionary with room for `capacity` entries.
 PB_API PbDict *pb___DictCreateWithCapacity( int64_t capacity );
 

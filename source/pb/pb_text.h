@@ -109,7 +109,7 @@ template< PbChar first > bool CopyInOtherCase( PbChar *to, const PbChar *from, i
     for( int64_t n = 0; n < length; ++n ) {
         const PbChar ch = from[ n ];
         bits |= uint32_t( ch );
-        to[ n ] = IsLetterFrom( first, ch ) ? ch ^ 0x20 : ch;
+        to[ n ] = ch ^ PbChar( uint32_t( IsLetterFrom( first, ch ) ) << 5 );
     }
     return bits < 0x80;
 }
@@ -294,11 +294,12 @@ struct PlainBlock
         for( size_t n = 0; n < bytes.size(); ++n ) mask |= uint32_t( bytes[ n ] == other.bytes[ n ] ) << n;
         return mask;
     }
-    PlainBlock Lower() const // "A" to "Z" alone
+    uint32_t Differs( const PlainBlock &other, const PlainBlock &anyBits ) const // in bits that are not among those
     {
-        PlainBlock lower;
-        std::transform( bytes.begin(), bytes.end(), lower.bytes.begin(), AsciiLower );
-        return lower;
+        uint32_t mask = 0;
+        for( size_t n = 0; n < bytes.size(); ++n )
+            mask |= uint32_t( ( ( bytes[ n ] ^ other.bytes[ n ] ) & ~anyBits.bytes[ n ] ) != 0 ) << n;
+        return mask;
     }
     uint32_t NotAscii() const
     {
@@ -343,11 +344,10 @@ struct SseBlock
     {
         return uint32_t( _mm_movemask_epi8( _mm_cmpeq_epi8( bytes, other.bytes ) ) );
     }
-    SseBlock Lower() const
+    uint32_t Differs( SseBlock other, SseBlock anyBits ) const
     {
-        const __m128i upper = _mm_and_si128( _mm_cmpgt_epi8( bytes, _mm_set1_epi8( 'A' - 1 ) ),
-                                             _mm_cmplt_epi8( bytes, _mm_set1_epi8( 'Z' + 1 ) ) );
-        return { _mm_or_si128( bytes, _mm_and_si128( upper, _mm_set1_epi8( 0x20 ) ) ) };
+        const __m128i bits = _mm_andnot_si128( anyBits.bytes, _mm_xor_si128( bytes, other.bytes ) );
+        return 0xFFFF ^ uint32_t( _mm_movemask_epi8( _mm_cmpeq_epi8( bits, _mm_setzero_si128() ) ) );
     }
     uint32_t NotAscii() const { return uint32_t( _mm_movemask_epi8( bytes ) ); }
     void     Widen( PbChar *to ) const

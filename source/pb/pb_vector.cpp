@@ -221,6 +221,12 @@ PbObj *pb___VectorPeek( PbVector *vector, int64_t index )
     return PeekWithChecks( vector, index );
 }
 
+PbObj *const *pb___VectorPeekAll( PbVector *vector )
+{
+    PB_ASSERT( vector );
+    return vector->Items();
+}
+
 PbObj *pbVectorAt( PbVector *vector, int64_t index ) { return pb::Retain( pb___VectorPeek( vector, index ) ); }
 
 PbString *pbVectorStringAt( PbVector *vector, int64_t index )

@@ -20,6 +20,10 @@ inline constexpr auto    nameWidths     = [] {
 }();
 inline int64_t NameWidth( int64_t number ) { return nameWidths[ size_t( number ) ]; }
 
+// "Via: " and so on, each in as many bytes, which are copied at once.
+using NameText = std::array< char, longestHeaderName >;
+extern const std::array< NameText, headerNameCount > nameTexts;
+
 // A set of known names, which are given by their numbers.
 struct NameSet
 {
@@ -45,7 +49,7 @@ static_assert( headerNameCount <= 192 );
 
 // Lines "Name: value" with their line ends, of known names only, in the order of the names; those of one name in the
 // order in which they came. An object that does not change. Behind the header stand, in the same block, where each line
-// ends, the number of its name, and the lines themselves, which are well-formed UTF-8.
+// begins and the last one ends, the number of its name, and the lines themselves, which are well-formed UTF-8.
 struct FieldTable
 {
     PbObj   obj;
@@ -56,14 +60,34 @@ struct FieldTable
     {
         int64_t first, count;
     };
-    Range Find( int64_t number ) const; // which must be there
+    Range Find( int64_t number ) const // which must be there
+    {
+        const pb::Block wanted = pb::Block::Of( PbByte( number ) );
+        int64_t         at     = 0;
+        uint32_t        found  = 0;
+        while( ( found = pb::Block::Load( Numbers() + at ).Equal( wanted ) ) == 0 ) at += 16;
+        const int64_t first = at + std::countr_zero( found );
+        int64_t       end   = std::min( first + std::countr_one( found >> ( first - at ) ), count );
+        while( end < count && NumberAt( end ) == number ) ++end; // in further blocks
+        return { first, end - first };
+    }
 
     int64_t NumberAt( int64_t index ) const { return Numbers()[ index ]; }
-    Bytes   LinesOf( int64_t first, int64_t end ) const; // one behind the other
-    Bytes   ValueAt( int64_t index ) const;
 
-    const int64_t *Ends() const { return reinterpret_cast< const int64_t * >( this + 1 ); }
-    const uint8_t *Numbers() const { return reinterpret_cast< const uint8_t * >( Ends() + count ); }
+    // Lines one behind the other, and the value of one of them.
+    Bytes LinesOf( int64_t first, int64_t end ) const
+    {
+        return { Text() + Begins()[ first ], Begins()[ end ] - Begins()[ first ] };
+    }
+    Bytes ValueAt( int64_t index ) const
+    {
+        const Bytes   line = LinesOf( index, index + 1 );
+        const int64_t name = NameWidth( NumberAt( index ) );
+        return { line.data + name, line.length - name - separatorWidth };
+    }
+
+    const int64_t *Begins() const { return reinterpret_cast< const int64_t * >( this + 1 ); }
+    const uint8_t *Numbers() const { return reinterpret_cast< const uint8_t * >( Begins() + count + 1 ); }
     const PbByte  *Text() const { return Numbers() + BlocksOf( count ); }
 
     // A count of bytes rounded up to whole blocks, and at least one.
@@ -89,7 +113,7 @@ public:
         int64_t &place    = word & bit ? rows_[ last_[ number ] ].next : first_[ number ];
         place             = count_;
         last_[ number ]   = count_;
-        rows_[ count_++ ] = { value, -1 };
+        rows_[ count_++ ] = { value.data, value.length, -1 };
         textLength_ += NameWidth( number ) + value.length + separatorWidth;
         word |= bit;
     }
@@ -100,8 +124,9 @@ public:
 private:
     struct Row
     {
-        Bytes   value;
-        int64_t next; // of the same name
+        const PbByte *data; // not Bytes: nothing is to be set before it is used
+        int64_t       length;
+        int64_t       next; // of the same name
     };
     static constexpr int64_t usual = 48; // more than most messages have
 

@@ -1,6 +1,8 @@
 // The header frame: the parts that are not templates.
 #include "sipsn_header_frame.h"
 
+#include "pb/pb_dict_tree.h"
+
 namespace sipsn {
 
 PbString *LinesToString( SipsnMessageHeader *owned )
@@ -11,6 +13,38 @@ PbString *LinesToString( SipsnMessageHeader *owned )
     case 1: return pb::Retain( PeekLine( owned, 0 ) );
     default: return pbVectorToString( owned->linesVector );
     }
+}
+
+TokenCollector::~TokenCollector()
+{
+    for( int64_t at = 0; at < count_; ++at ) pb::Release( tokens_[ at ] );
+}
+
+void TokenCollector::Add( PbString *owned )
+{
+    if( dict_ || count_ == usual ) {
+        if( !dict_ ) dict_ = pb::Ref{ ToDict() };
+        pb___DictSetOwned( dict_.Slot(), owned, pb::AsObj( pb::Retain( owned ) ) );
+        return;
+    }
+    int64_t at = count_;
+    for( ; at > 0; --at ) {
+        const int order = pb::CompareKeys( owned, tokens_[ at - 1 ] );
+        if( order == 0 ) return pb::Release( owned );
+        if( order > 0 ) break;
+    }
+    for( int64_t behind = count_++; behind > at; --behind ) tokens_[ behind ] = tokens_[ behind - 1 ];
+    tokens_[ at ] = owned;
+}
+
+PbDict *TokenCollector::ToDict()
+{
+    if( dict_ ) return dict_.Detach();
+    PbDict *dict = pb___DictCreateWithCapacity( count_ );
+    for( int64_t at = 0; at < count_; ++at )
+        pb___DictAppendOwned( &dict, tokens_[ at ], pb::AsObj( pb::Retain( tokens_[ at ] ) ) );
+    count_ = 0;
+    return dict;
 }
 
 int64_t SkipListItem( const PbChar *chs, int64_t length )

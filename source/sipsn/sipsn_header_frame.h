@@ -152,6 +152,25 @@ template< class Header > struct List
     }
 };
 
+// Puts tokens in order, each once. Few lists have more than there is room for; these have their dictionary at once.
+class TokenCollector
+{
+public:
+    TokenCollector() {}
+    TokenCollector( const TokenCollector & ) = delete;
+    ~TokenCollector();
+
+    void    Add( PbString *owned );
+    PbDict *ToDict();
+
+private:
+    static constexpr int64_t usual = 32;
+
+    int64_t           count_ = 0;
+    PbString         *tokens_[ usual ];
+    pb::Ref< PbDict > dict_; // of more
+};
+
 // A dictionary from each token to itself: each is held once, in the order of the dictionary.
 template< class Header > struct Set
 {
@@ -163,13 +182,16 @@ template< class Header > struct Set
     {
         constexpr auto row = itemsRow< Header >;
         if( lines.Count() == 0 ) return nullptr;
-        pb::Ref    hdr{ Create() };
-        const auto keep = [ & ]( Span found ) {
-            PbString *token = row.rule->decoded( found.chs, found.length );
-            pb___DictSetOwned( &( ( *hdr.Get() ).*row.member ), token, pb::AsObj( pb::Retain( token ) ) );
+        TokenCollector tokens;
+        const auto     keep = [ & ]( Span found ) {
+            tokens.Add( row.rule->decoded( found.chs, found.length ) );
             return true;
         };
-        return TryDecodeItems( lines, row.rule->production, separator.read, keep ) ? hdr.Detach() : nullptr;
+        if( !TryDecodeItems( lines, row.rule->production, separator.read, keep ) ) return nullptr;
+        static_assert( pb::membersOf< Header >.count == 1 );
+        Header *hdr      = pb::New< Header >();
+        hdr->*row.member = tokens.ToDict();
+        return hdr;
     }
 
     SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const
@@ -215,8 +237,11 @@ template< class Header > struct WholeLine
     Header *TryDecode( FieldLines &lines ) const
     {
         if( lines.Count() == 0 ) return nullptr;
+        constexpr bool keepsText = First().rule->normal == &pb::Retain< PbString >;
+
         pb::Ref line{ lines.TextAt( lines.Count() - 1 ) };
-        return First().rule->ok( line.Get() ) ? Create( First().rule->normal( line.Get() ) ) : nullptr;
+        if( !First().rule->ok( line.Get() ) ) return nullptr;
+        return Create( keepsText ? line.Detach() : First().rule->normal( line.Get() ) );
     }
 
     SipsnMessageHeader *Encode( Header *hdr, int64_t number ) const

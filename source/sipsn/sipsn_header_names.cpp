@@ -59,7 +59,7 @@ template< class Ch > static constexpr uint8_t Lower( Ch ch )
     return uint32_t( ch ) < 256 ? lowerToken[ uint32_t( ch ) ] : uint8_t( 0 );
 }
 
-// The beginning of a name in lower case, zeros behind it, so that names are compared eight characters at a time.
+// A name in lower case, zeros behind it.
 using LowerName = std::array< uint8_t, longestHeaderName >;
 
 static constexpr auto lowerNames = [] {
@@ -69,18 +69,11 @@ static constexpr auto lowerNames = [] {
     return table;
 }();
 
-static bool SameName( const LowerName &a, const LowerName &b, size_t length )
-{
-    for( size_t n = 0; n < length; n += 8 )
-        if( std::memcmp( a.data() + n, b.data() + n, 8 ) != 0 ) return false;
-    return true;
-}
-
 // Length and three letters, in whatever case, tell nearly all names apart: with these factors, two share a slot.
-static constexpr size_t slotCount = 1024;
-static constexpr size_t FirstSlot( const uint8_t *name, size_t length )
+static constexpr size_t                      slotCount = 1024;
+template< class Ch > static constexpr size_t FirstSlot( const Ch *name, size_t length )
 {
-    const auto letter = [ = ]( size_t n ) { return name[ n ] | 0x20u; };
+    const auto letter = [ = ]( size_t n ) { return size_t( uint32_t( name[ n ] ) | 0x20 ); };
     return ( length * 35 + letter( 0 ) * 63 + letter( length / 2 ) * 61 + letter( length - 1 ) * 93 ) % slotCount;
 }
 
@@ -110,36 +103,55 @@ template< size_t... at > static consteval auto MakeStrings( std::index_sequence<
 }
 constinit const decltype( headerNameStrings ) headerNameStrings = MakeStrings( std::make_index_sequence< count >{} );
 
-static int64_t NumberOf( const LowerName &name, size_t length )
+template< class Ch > static int64_t NumberOf( const Ch *name, int64_t length )
 {
     if( length == 1 ) {
-        const uint8_t letter = name[ 0 ];
+        const uint8_t letter = Lower( name[ 0 ] );
         const uint8_t found  = letter >= 'a' && letter <= 'z' ? compact[ size_t( letter - 'a' ) ] : none;
         return found == none ? -1 : found;
     }
-    for( size_t slot = FirstSlot( name.data(), length ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
-        const size_t at = slots[ slot ];
-        if( names[ at ].size() == length && SameName( name, lowerNames[ at ], length ) ) return int64_t( at );
+    if( length < 1 || length >= int64_t( longestHeaderName ) ) return -1;
+    for( size_t slot = FirstSlot( name, size_t( length ) ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
+        const LowerName &known = lowerNames[ slots[ slot ] ];
+        int64_t          at    = 0;
+        while( at < length && Lower( name[ at ] ) == known[ size_t( at ) ] ) ++at;
+        if( at == length && known[ size_t( length ) ] == 0 ) return slots[ slot ];
     }
     return -1;
 }
 
+int64_t KnownHeaderNumber( const PbChar *chs, int64_t length ) { return NumberOf( chs, length ); }
+int64_t KnownHeaderNumber( const PbByte *bytes, int64_t length ) { return NumberOf( bytes, length ); }
+
 template< class Ch > static HeaderNameToken Scan( const Ch *chs, int64_t length )
 {
-    LowerName     name{};
-    const int64_t kept = std::min( length, int64_t( longestHeaderName ) );
-    int64_t       at   = 0;
-    for( ; at < kept; ++at ) {
-        name[ size_t( at ) ] = Lower( chs[ at ] );
-        if( !name[ size_t( at ) ] ) return { at, at > 0 ? NumberOf( name, size_t( at ) ) : -1 };
-    }
-    if( at == length ) return { at, at > 0 ? NumberOf( name, size_t( at ) ) : -1 };
+    int64_t at = 0;
     while( at < length && Lower( chs[ at ] ) ) ++at;
-    return { at, -1 };
+    return { at, NumberOf( chs, at ) };
 }
 
 HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length ) { return Scan( chs, length ); }
 HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length ) { return Scan( bytes, length ); }
+
+// A name as it may be written: where a letter stands, its bit of the case does not matter, and behind the end nothing.
+struct Pattern
+{
+    LowerName lower, anyBits;
+    size_t    size;
+};
+static constexpr auto patterns = [] {
+    std::array< Pattern, count > table{};
+    for( size_t at = 0; at < count; ++at ) {
+        Pattern &pattern = table[ at ];
+        pattern.lower    = lowerNames[ at ];
+        pattern.size     = names[ at ].size();
+        for( size_t n = 0; n < longestHeaderName; ++n ) {
+            const bool letter    = pattern.lower[ n ] >= 'a' && pattern.lower[ n ] <= 'z';
+            pattern.anyBits[ n ] = n >= pattern.size ? 0xFF : letter ? 0x20 : 0;
+        }
+    }
+    return table;
+}();
 
 HeaderNameToken ScanUsualHeaderName( const PbByte *bytes, int64_t length )
 {
@@ -150,16 +162,16 @@ HeaderNameToken ScanUsualHeaderName( const PbByte *bytes, int64_t length )
     if( found == 0 ) found = pb::Block::Load( bytes + 16 ).Equal( colon ) << 16; // few names are so long
     if( found == 0 ) return { 0, -1 };
     const size_t size = size_t( std::countr_zero( found ) );
-    if( size < 2 ) return { int64_t( size ), size == 1 ? NumberOf( { Lower( bytes[ 0 ] ) }, 1 ) : -1 };
+    if( size < 2 ) return { int64_t( size ), size == 1 ? NumberOf( bytes, 1 ) : -1 };
 
-    const uint32_t  all      = ( uint32_t( 1 ) << size ) - 1;
-    const pb::Block lowerLow = low.Lower();
     for( size_t slot = FirstSlot( bytes, size ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
-        const LowerName &name  = lowerNames[ slots[ slot ] ];
-        uint32_t         equal = lowerLow.Equal( pb::Block::Load( name.data() ) );
-        if( size > 16 )
-            equal |= pb::Block::Load( bytes + 16 ).Lower().Equal( pb::Block::Load( name.data() + 16 ) ) << 16;
-        if( ( equal & all ) == all && name[ size ] == 0 ) return { int64_t( size ), slots[ slot ] };
+        const Pattern &pattern = patterns[ slots[ slot ] ];
+        const auto     fits    = [ & ]( size_t at ) {
+            const pb::Block lower = pb::Block::Load( pattern.lower.data() + at );
+            return pb::Block::Load( bytes + at ).Differs( lower, pb::Block::Load( pattern.anyBits.data() + at ) ) == 0;
+        };
+        if( pattern.size == size && fits( 0 ) && ( size <= 16 || fits( 16 ) ) )
+            return { int64_t( size ), slots[ slot ] };
     }
     return { 0, -1 };
 }

@@ -172,8 +172,12 @@ struct HeaderNameToken
 HeaderNameToken ScanHeaderName( const PbChar *chs, int64_t length );
 HeaderNameToken ScanHeaderName( const PbByte *bytes, int64_t length );
 
-// The same for a known name with a colon behind it, in a text that goes on, as fields usually begin; the number is -1
-// for everything else.
+// The number of the known name that is the whole text, in any letter case or compact; -1 for every other.
+int64_t KnownHeaderNumber( const PbChar *chs, int64_t length );
+int64_t KnownHeaderNumber( const PbByte *bytes, int64_t length );
+
+// As ScanHeaderName for a known name with a colon behind it, in a text that goes on, as fields usually begin; the
+// number is -1 for everything else.
 HeaderNameToken ScanUsualHeaderName( const PbByte *bytes, int64_t length );
 
 // A token in lower case but for the first letter of each word, as a new string.

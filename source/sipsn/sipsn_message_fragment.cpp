@@ -1,7 +1,7 @@
 // SipsnMessageFragment: start line, header fields and body of a message. Decoding and encoding have files of their own.
 #include "sipsn_message_fragment.h"
 
-#include "sipsn_header_names.h"
+#include "sipsn_field_walk.h"
 #include "sipsn_iri.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_method.h"
@@ -262,7 +262,7 @@ struct FieldName
     int64_t             number;
     pb::Ref< PbString > other; // of another name
 
-    explicit FieldName( PbString *name ) : number{ name ? NumberOf( name->chs, name->length ) : -1 }
+    explicit FieldName( PbString *name ) : number{ name ? sipsn::KnownHeaderNumber( name->chs, name->length ) : -1 }
     {
         if( number < 0 ) other = pb::Ref{ sipsnMessageHeaderNameNormalize( name ) };
     }
@@ -270,15 +270,9 @@ struct FieldName
     FieldName( const char *name, int64_t length ) : number{ -1 }
     {
         if( name && length == -1 ) length = int64_t( std::strlen( name ) );
-        if( name && length > 0 ) number = NumberOf( reinterpret_cast< const PbByte * >( name ), length );
+        if( name && length > 0 )
+            number = sipsn::KnownHeaderNumber( reinterpret_cast< const PbByte * >( name ), length );
         if( number < 0 ) other = pb::Ref{ sipsnMessageHeaderNameNormalize( StringFrom( name, length ).Get() ) };
-    }
-
-private:
-    template< class Ch > static int64_t NumberOf( const Ch *name, int64_t length )
-    {
-        const sipsn::HeaderNameToken token = sipsn::ScanHeaderName( name, length );
-        return token.length == length ? token.number : -1;
     }
 };
 
@@ -290,11 +284,10 @@ SipsnMessageHeader *PeekOther( SipsnMessageFragment *frag, PbString *name )
 // Where the header of a known name is among the objects, or would be. Few messages have many.
 int64_t PlaceOfKnown( SipsnMessageFragment *frag, int64_t number )
 {
-    int64_t at = frag->known ? pbVectorLength( frag->known ) : 0;
-    while( at > 0 &&
-           reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag->known, at - 1 ) )->number >= number )
-        --at;
-    return at;
+    const auto headers = sipsn::KnownHeaders( frag );
+    size_t     at      = headers.size();
+    while( at > 0 && headers[ at - 1 ]->number >= number ) --at;
+    return int64_t( at );
 }
 
 // A header of lines in the table.
@@ -356,7 +349,7 @@ int64_t sipsn::FirstNumberBehind( PbString *name )
 SipsnMessageHeader *sipsn::PeekKnown( SipsnMessageFragment *frag, int64_t number )
 {
     if( !frag->inKnown.Has( number ) ) return nullptr;
-    return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag->known, PlaceOfKnown( frag, number ) ) );
+    return KnownHeaders( frag )[ size_t( PlaceOfKnown( frag, number ) ) ];
 }
 
 SipsnMessageHeader *sipsnMessageFragmentHeader( SipsnMessageFragment *frag, PbString *name )

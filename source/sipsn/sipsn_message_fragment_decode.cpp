@@ -6,6 +6,7 @@
 #include "sipsn_message_fragment.h"
 
 #include "sipsn_header_names.h"
+#include "sipsn_known_tokens.h"
 #include "sipsn_message_internal.h"
 #include "sipsn_method.h"
 #include "sipsn_token_frame.h"
@@ -59,12 +60,22 @@ StartLine TryDecodeStatusLine( SipsnMessageFragment **frag, SipsnVersion *versio
     return StartLine::read;
 }
 
+PbString *TryDecodeMethod( Bytes text )
+{
+    if( PbChar chs[ longestKnownToken ]; text.length <= longestKnownToken ) {
+        std::copy_n( text.data, text.length, chs );
+        if( PbString *known = KnownToken( chs, text.length ) ) return known;
+    }
+    pb::Ref method{ TextOf( text ) };
+    return method && sipsnMethodOk( method.Get() ) ? method.Detach() : nullptr;
+}
+
 StartLine TryDecodeRequestLine( SipsnMessageFragment **frag, Bytes method, Bytes uri, Bytes versionText )
 {
-    pb::Ref methodString{ pb___StringTryCreateFromUtf8( method.data, method.length ) };
-    if( !methodString || !sipsnMethodOk( methodString.Get() ) ) return StartLine::none;
+    pb::Ref methodString{ TryDecodeMethod( method ) };
+    if( !methodString ) return StartLine::none;
     pb::Ref version{ TryDecodeVersion( versionText ) };
-    pb::Ref uriString{ pb___StringTryCreateFromUtf8( uri.data, uri.length ) };
+    pb::Ref uriString{ TextOf( uri ) };
     if( !version || !uriString ) return StartLine::malformed;
     pb::Ref iri{ iriTryConvertFromUri( uriString.Get() ) };
     if( !iri ) return StartLine::malformed;
@@ -132,38 +143,45 @@ bool IsUtf8( Bytes text )
     return std::all_of( text.data, text.End(), []( PbByte byte ) { return byte < 0x80; } ) || pb::Ref{ TextOf( text ) };
 }
 
-// How many bytes stand before the line end. `ascii` is left alone or, where some of them may not be, set to false.
-int64_t FindLineEnd( Bytes text, bool &ascii )
+// The line end behind a place, and whether all before it is ASCII for certain.
+struct LineEnd
+{
+    const PbByte *at;
+    bool          ascii;
+};
+LineEnd LineEndBehind( const PbByte *at, const PbByte *end )
 {
     const pb::Block cr = pb::Block::Of( '\r' ), lf = pb::Block::Of( '\n' );
     uint32_t        notAscii = 0;
-    for( int64_t at = 0; at + 16 <= text.length; at += 16 ) {
-        const pb::Block block = pb::Block::Load( text.data + at );
+    for( ; end - at >= 16; at += 16 ) {
+        const pb::Block block = pb::Block::Load( at );
         const uint32_t  found = block.Equal( cr ) | block.Equal( lf );
         notAscii |= block.NotAscii();
-        if( found == 0 ) continue;
-        if( notAscii != 0 ) ascii = false;
-        return at + std::countr_zero( found );
+        if( found != 0 ) return { at + std::countr_zero( found ), notAscii == 0 };
     }
-    ascii = false;
-    return FindLineEnd( text );
+    return { at + FindLineEnd( { at, end - at } ), false };
 }
 
-// Takes fields as nearly all are off the front: a known name, a colon behind it, and one line. Stops in front of all
-// others, and of an empty line.
+// Takes fields as nearly all are off the front: a known name, a colon behind it, and one line that ends with CR LF.
+// Stops in front of all others, and of an empty line.
 void TakeUsualFields( DecodedFields &fields, Bytes &lines )
 {
+    const PbByte *const end = lines.End();
     for( ;; ) {
         const HeaderNameToken name = ScanUsualHeaderName( lines.data, lines.length );
         if( name.number < 0 ) return;
-        bool        ascii  = true;
-        const Bytes rest   = SkipBlanks( lines.From( name.length + 1 ) );
-        const Bytes value  = rest.First( FindLineEnd( rest, ascii ) );
-        const Bytes behind = SkipLineEnd( rest.From( value.length ) );
-        if( !behind.Empty() && IsBlank( behind.Front() ) ) return;
+        const PbByte *begin = lines.data + name.length + 1;
+        if( *begin == ' ' ) ++begin;
+        const auto [ valueEnd, ascii ] = LineEndBehind( begin, end );
+
+        const int64_t left = end - valueEnd;
+        if( left < 2 || valueEnd[ 0 ] != '\r' || valueEnd[ 1 ] != '\n' ) return;
+        if( left > 2 && IsBlank( valueEnd[ 2 ] ) ) return;
+        Bytes value{ begin, valueEnd - begin };
+        if( !value.Empty() && ( IsBlank( value.Front() ) || IsBlank( valueEnd[ -1 ] ) ) ) value = Trim( value );
         if( !ascii && !IsUtf8( value ) ) return;
-        fields.Add( name.number, TrimEnd( value ) );
-        lines = behind;
+        fields.Add( name.number, value );
+        lines = { valueEnd + 2, left - 2 };
     }
 }
 

@@ -5,7 +5,7 @@
 // lengths.
 #include "sipsn_message_fragment.h"
 
-#include "sipsn_message_internal.h"
+#include "sipsn_field_walk.h"
 #include "sipsn_token_internal.h"
 
 #include "iri/iri_internal.h"
@@ -82,8 +82,7 @@ public:
     {
         if( header->number == contentLength ) return VisitContentLength();
         for( int64_t at = 0, length = sipsn::LineCount( header ); at < length; ++at ) {
-            visit_( header->name );
-            visit_( ": " );
+            VisitName( header );
             visit_( sipsn::PeekLine( header, at ) );
             visit_( "\r\n" );
         }
@@ -123,6 +122,16 @@ private:
         visit_( { reinterpret_cast< const char * >( lines.data ), size_t( lines.length ) } );
     }
 
+    void VisitName( SipsnMessageHeader *header )
+    {
+        if( const int64_t number = header->number; number >= 0 ) {
+            visit_( { sipsn::nameTexts[ size_t( number ) ].data(), size_t( sipsn::NameWidth( number ) ) } );
+        } else {
+            visit_( header->name );
+            visit_( ": " );
+        }
+    }
+
     void VisitContentLength()
     {
         visit_( "Content-Length: " );
@@ -141,6 +150,27 @@ private:
     const MadeTexts      &texts_;
     Visitor              &visit_;
 };
+
+// As memcpy, without a call for what is as short as most pieces are: two copies that overlap cover it.
+[[gnu::always_inline]] inline void CopyShort( PbByte *to, const char *from, size_t size )
+{
+    const auto copyEnds = [=]( auto part ) __attribute__( ( always_inline ) )
+    {
+        std::memcpy( to, from, part );
+        std::memcpy( to + size - part, from + size - part, part );
+    };
+    if( size > 32 )
+        std::memcpy( to, from, size );
+    else if( size >= 16 )
+        copyEnds( std::integral_constant< size_t, 16 >{} );
+    else if( size >= 4 ) {
+        if( size >= 8 )
+            copyEnds( std::integral_constant< size_t, 8 >{} );
+        else
+            copyEnds( std::integral_constant< size_t, 4 >{} );
+    } else
+        for( size_t n = 0; n < size; ++n ) to[ n ] = PbByte( from[ n ] );
+}
 
 // Adds up code points: the length in bytes, as long as all strings are ASCII. What was received counts in bytes.
 struct CharCounter
@@ -169,7 +199,7 @@ public:
 
     void operator()( std::string_view text )
     {
-        std::memcpy( out_, text.data(), text.size() );
+        CopyShort( out_, text.data(), text.size() );
         out_ += text.size();
     }
     void operator()( PbString *text )

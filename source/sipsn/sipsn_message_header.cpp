@@ -118,9 +118,7 @@ bool sipsnMessageHeaderNameEqualsWcstr( SipsnMessageHeader *header, const wchar_
 bool sipsnMessageHeaderLineOk( PbString *line )
 {
     PB_ASSERT( line );
-    for( int64_t at = 0; at < line->length; ++at )
-        if( line->chs[ at ] == '\r' || line->chs[ at ] == '\n' ) return false;
-    return true;
+    return !sipsn::HasLineEnd( line );
 }
 
 // A new reference to the vector, which is made when the header has none.
@@ -152,26 +150,9 @@ void sipsn::AppendLineOwned( SipsnMessageHeader *header, PbString *line )
 
 // ---- Reading lines wherever they are ---------------------------------------------------------------
 
-sipsn::FieldLines::FieldLines( SipsnMessageFragment *frag, int64_t number )
-{
-    if( frag->inReceived.Has( number ) ) {
-        const FieldTable::Range range = frag->received->Find( number );
-        table_                        = frag->received;
-        first_                        = range.first;
-        count_                        = range.count;
-    } else {
-        header_ = PeekKnown( frag, number );
-        count_  = LineCount( header_ );
-    }
-}
-
 // Behind the lines of a table there is always room for a block.
-sipsn::Span sipsn::FieldLines::At( int64_t index )
+sipsn::Span sipsn::FieldLines::FromTable( int64_t index )
 {
-    if( header_ ) {
-        const PbString *line = PeekLine( header_, index );
-        return { line->chs, line->length };
-    }
     const Bytes value    = table_->ValueAt( first_ + index );
     uint32_t    notAscii = 0;
     if( value.length <= usual )

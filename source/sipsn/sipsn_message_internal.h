@@ -8,6 +8,8 @@
 #include "sipsn_message.h"
 #include "sipsn_message_lines.h"
 
+#include <span>
+
 struct SipsnVersion
 {
     PbObj     obj;
@@ -167,7 +169,15 @@ inline bool HasKnown( const SipsnMessageFragment *frag, int64_t number )
     return frag->inReceived.Has( number ) || frag->inKnown.Has( number );
 }
 
-// The header of a known name that is kept as an object, without a reference of its own, or null.
+// The headers of known names that are kept as objects, in the order of their numbers, without references of their own.
+inline std::span< SipsnMessageHeader *const > KnownHeaders( SipsnMessageFragment *frag )
+{
+    if( !frag->known ) return {};
+    const auto headers = reinterpret_cast< SipsnMessageHeader *const * >( pb___VectorPeekAll( frag->known ) );
+    return { headers, size_t( pbVectorLength( frag->known ) ) };
+}
+
+// One of them, or null.
 SipsnMessageHeader *PeekKnown( SipsnMessageFragment *frag, int64_t number );
 
 // The lines of a header field, to be read one after the other, wherever they are kept.
@@ -177,12 +187,28 @@ public:
     explicit FieldLines( SipsnMessageHeader *header ) : header_{ header }, count_{ LineCount( header ) } {}
 
     // Those of a known name that the fragment has.
-    FieldLines( SipsnMessageFragment *frag, int64_t number );
+    FieldLines( SipsnMessageFragment *frag, int64_t number )
+    {
+        if( frag->inReceived.Has( number ) ) {
+            const FieldTable::Range range = frag->received->Find( number );
+            table_                        = frag->received;
+            first_                        = range.first;
+            count_                        = range.count;
+        } else {
+            header_ = PeekKnown( frag, number );
+            count_  = LineCount( header_ );
+        }
+    }
 
     int64_t Count() const { return count_; }
 
     // The line at an index below that, until the next is asked for.
-    Span At( int64_t index );
+    Span At( int64_t index )
+    {
+        if( !header_ ) return FromTable( index );
+        const PbString *line = PeekLine( header_, index );
+        return { line->chs, line->length };
+    }
 
     // The same as a new reference.
     PbString *TextAt( int64_t index ) const;
@@ -191,76 +217,14 @@ private:
     // Lines of the usual length, of which no string is made.
     static constexpr int64_t usual = 256;
 
+    Span FromTable( int64_t index );
+
     SipsnMessageHeader *header_ = nullptr;
     const FieldTable   *table_  = nullptr;
     int64_t             first_  = 0; // line of the table
     int64_t             count_  = 0;
     pb::Ref< PbString > long_;
     PbChar              chs_[ usual ];
-};
-
-// The number of the first known name behind another name.
-int64_t FirstNumberBehind( PbString *name );
-
-// Visits the header fields of a fragment in the order of their names: `visit.Received( first, end )` for lines of the
-// table, as many names at once as stand together, `visit.Header( header )` for an object.
-template< class Visit > class FieldWalk
-{
-public:
-    FieldWalk( SipsnMessageFragment *frag, Visit &visit ) : frag_{ frag }, visit_{ visit } {}
-
-    void All()
-    {
-        if( frag_->others ) pb___DictVisitValues( frag_->others, VisitOther, this );
-        KnownBefore( nullptr );
-    }
-
-private:
-    static void VisitOther( void *walk, PbObj *field )
-    {
-        auto *self   = static_cast< FieldWalk   *>( walk );
-        auto *header = reinterpret_cast< SipsnMessageHeader * >( field );
-        self->KnownBefore( header->name );
-        self->visit_.Header( header );
-    }
-
-    void KnownBefore( PbString *name )
-    {
-        const int64_t limit = name ? FirstNumberBehind( name ) : headerNameCount;
-        while( SipsnMessageHeader *header = PeekNext() ) {
-            if( header->number >= limit ) break;
-            ReceivedBefore( header->number );
-            visit_.Header( header );
-            ++known_;
-        }
-        ReceivedBefore( limit );
-    }
-
-    SipsnMessageHeader *PeekNext()
-    {
-        if( !frag_->known || known_ == pbVectorLength( frag_->known ) ) return nullptr;
-        return reinterpret_cast< SipsnMessageHeader * >( pb___VectorPeek( frag_->known, known_ ) );
-    }
-
-    void ReceivedBefore( int64_t limit )
-    {
-        const FieldTable *table  = frag_->received;
-        const int64_t     count  = table ? table->count : 0;
-        const auto        passes = [ & ]( bool wanted ) { // over lines that are still there, or are not
-            const int64_t first = line_;
-            for( ; line_ < count && table->NumberAt( line_ ) < limit; ++line_ )
-                if( frag_->inReceived.Has( table->NumberAt( line_ ) ) != wanted ) break;
-            return line_ > first;
-        };
-        do {
-            const int64_t first = line_;
-            if( passes( true ) ) visit_.Received( first, line_ );
-        } while( passes( false ) );
-    }
-
-    SipsnMessageFragment *frag_;
-    Visit                &visit_;
-    int64_t               line_ = 0, known_ = 0;
 };
 
 // A new string of bytes that are well-formed UTF-8.

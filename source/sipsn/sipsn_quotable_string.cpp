@@ -5,12 +5,10 @@
 #include "sipsn_token_frame.h"
 #include "sipsn_token_internal.h"
 
-static bool IsLineEnd( PbChar ch ) { return ch == '\r' || ch == '\n'; }
-
 bool sipsnQuotableStringOk( PbString *quotableString )
 {
     PB_ASSERT( quotableString );
-    return std::ranges::none_of( sipsn::Characters( quotableString ), IsLineEnd );
+    return !sipsn::HasLineEnd( quotableString );
 }
 
 PbString *sipsn::Unquote( const PbChar *chs, int64_t length )
@@ -34,10 +32,30 @@ PbString *sipsn___QuotableStringTryDecode( const PbChar *chs, int64_t length )
     return sipsn::Matches( chs, length, sipsn___SkipQuotedString ) ? sipsn::Unquote( chs, length ) : nullptr;
 }
 
+// Whether there may be a character to escape. To the end in any case, so that it is done several at a time.
+static bool MayNeedEscape( PbString *string )
+{
+    uint32_t found    = 0;
+    PbChar   previous = 0;
+    for( PbChar ch : sipsn::Characters( string ) ) {
+        found |= uint32_t( ch < ' ' ) | uint32_t( ch == '"' ) | uint32_t( ch == '\\' ) | uint32_t( ch == 127 ) |
+                 uint32_t( ch == ' ' && previous == ' ' );
+        previous = ch;
+    }
+    return found != 0;
+}
+
 PbString *sipsn___QuotableStringEncode( PbString *quotableString )
 {
     PB_ASSERT( sipsnQuotableStringOk( quotableString ) );
 
+    if( !MayNeedEscape( quotableString ) ) {
+        PbString *quoted                          = pb___StringCreateUninitialized( quotableString->length + 2 );
+        quoted->chs[ 0 ]                          = '"';
+        quoted->chs[ quotableString->length + 1 ] = '"';
+        std::copy_n( quotableString->chs, quotableString->length, quoted->chs + 1 );
+        return quoted;
+    }
     return sipsn::StringOf( [ = ]( auto put ) {
         // Whoever folds white space takes several spaces for one, so that every second of a run is escaped.
         bool afterPlainSpace = false;

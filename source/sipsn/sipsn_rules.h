@@ -64,7 +64,8 @@ inline constexpr TextRule eventType{
     .words = "an event type", .ok = sipsnEventTypeOk, .production = sipsn___SkipEventType };
 inline constexpr TextRule historyInfoIndex{
     .words = "an index", .ok = sipsnHistoryInfoIndexOk, .production = sipsn___SkipHistoryInfoIndex };
-inline constexpr TextRule method{ .words = "a method", .ok = sipsnMethodOk, .production = sipsn___SkipMethod };
+inline constexpr TextRule method{
+    .words = "a method", .ok = sipsnMethodOk, .production = sipsn___SkipMethod, .decoded = TokenFromChars };
 inline constexpr TextRule rvalue{
     .words = "a namespace and a priority", .ok = sipsnRvalueOk, .production = sipsn___SkipRvalue };
 inline constexpr TextRule sessUuid{

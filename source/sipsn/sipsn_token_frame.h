@@ -16,6 +16,7 @@
 #include "pb/pb_format.h"
 #include "pb/pb_internal.h"
 #include "sipsn_cursor.h"
+#include "sipsn_known_tokens.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -25,6 +26,14 @@
 namespace sipsn {
 
 inline std::span< const PbChar > Characters( PbString *string ) { return { string->chs, size_t( string->length ) }; }
+
+// To the end in any case, so that it is done several characters at a time.
+inline bool HasLineEnd( PbString *string )
+{
+    uint32_t found = 0;
+    for( PbChar ch : Characters( string ) ) found |= uint32_t( ch == '\r' ) | uint32_t( ch == '\n' );
+    return found != 0;
+}
 
 // ---- Matching --------------------------------------------------------------------------------------
 
@@ -99,6 +108,8 @@ inline PbString *CollapseBlanks( PbString *string )
 // The text with the letters from `first` on in the other case. `beyondAscii` maps what else a text may hold.
 template< PbChar first, void ( *beyondAscii )( PbString ** ) > PbString *MapCase( const PbChar *chs, int64_t length )
 {
+    if( PbChar token[ longestKnownToken ]; length <= longestKnownToken )
+        if( pb::CopyInOtherCase< first >( token, chs, length ) ) return TokenFromChars( token, length );
     PbString *mapped = pb___StringCreateUninitialized( length );
     if( !pb::CopyInOtherCase< first >( mapped->chs, chs, length ) ) beyondAscii( &mapped );
     return mapped;

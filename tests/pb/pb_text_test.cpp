@@ -68,17 +68,21 @@ template< class Block > void CheckBlock()
     for( size_t n = 0; n < sizeof bytes; ++n ) bytes[ n ] = PbByte( n );
     for( size_t from = 0; from + 16 <= sizeof bytes; ++from ) {
         const Block block = Block::Load( bytes + from );
-        const Block lower = block.Lower();
+        PbChar      wide[ 16 ];
+        block.Widen( wide );
         for( size_t at = 0; at < 16; ++at ) {
             const PbByte byte = bytes[ from + at ];
             EXPECT_EQ( block.Equal( Block::Of( byte ) ), 1u << at );
-            EXPECT_TRUE( lower.Equal( Block::Of( byte >= 'A' && byte <= 'Z' ? PbByte( byte + 32 ) : byte ) ) >> at & 1 )
-                << from + at;
+            const Block other = Block::Of( byte ^ 0x20 );
+            EXPECT_EQ( block.Differs( other, Block::Of( 0 ) ) >> at & 1, 1u );
+            EXPECT_EQ( block.Differs( other, Block::Of( 0x20 ) ) >> at & 1, 0u );
+            EXPECT_EQ( block.NotAscii() >> at & 1, uint32_t( byte >> 7 ) );
+            EXPECT_EQ( wide[ at ], byte );
         }
     }
 }
 
-TEST( TextBlock, FindsBytesAndMapsLetters )
+TEST( TextBlock, FindsBytesAndWidensThem )
 {
     CheckBlock< pb::PlainBlock >();
     CheckBlock< pb::Block >();
