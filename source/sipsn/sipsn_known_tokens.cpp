@@ -1,9 +1,10 @@
 // The tokens that are constants, and a hash table over them that is made at compile time.
 #include "sipsn_known_tokens.h"
 
+#include "pb/pb_text.h"
+
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -95,9 +96,9 @@ template< size_t... at > static consteval auto MakeStrings( std::index_sequence<
 }
 static constinit const auto strings = MakeStrings( std::make_index_sequence< count >{} );
 
-// With these factors, no two tokens share a slot.
+// Tells the tokens apart; a new one may want other factors.
 static constexpr size_t                        slotCount = 256;
-template< class Text > static constexpr size_t FirstSlot( const Text &text, size_t length )
+template< class Text > static constexpr size_t SlotOf( const Text &text, size_t length )
 {
     const auto at = [ & ]( size_t n ) { return size_t( uint32_t( text[ n ] ) ); };
     return ( length * 35 + at( 0 ) * 53 + at( length / 2 ) * 55 + at( length - 1 ) * 12 ) % slotCount;
@@ -106,19 +107,20 @@ template< class Text > static constexpr size_t FirstSlot( const Text &text, size
 static constexpr auto slots = [] {
     std::array< uint8_t, slotCount > table{};
     for( uint8_t &slot : table ) slot = none;
-    for( size_t at = 0; at < count; ++at ) {
-        size_t slot = FirstSlot( texts[ at ], texts[ at ].size() );
-        while( table[ slot ] != none ) slot = ( slot + 1 ) % slotCount;
-        table[ slot ] = uint8_t( at );
-    }
+    for( size_t at = 0; at < count; ++at ) table[ SlotOf( texts[ at ], texts[ at ].size() ) ] = uint8_t( at );
     return table;
 }();
+static_assert( std::ranges::count_if( slots, []( uint8_t slot ) { return slot != none; } ) == count );
 
 // Four characters at a time, the last ones together with some before them again.
 static bool Equal( const PbChar *a, const PbChar *b, int64_t length )
 {
-    const auto same = [ = ]( int64_t at ) { return std::memcmp( a + at, b + at, 4 * sizeof( PbChar ) ) == 0; };
-    if( length < 4 ) return std::equal( a, a + length, b );
+    const auto load = []( const PbChar *chs ) { return pb::Block::Load( reinterpret_cast< const PbByte * >( chs ) ); };
+    const auto same = [ = ]( int64_t at ) { return load( a + at ).Equal( load( b + at ) ) == 0xFFFF; };
+    if( length < 4 ) {
+        while( length > 0 && a[ length - 1 ] == b[ length - 1 ] ) --length;
+        return length == 0;
+    }
     for( int64_t at = 0; at < length - 4; at += 4 )
         if( !same( at ) ) return false;
     return same( length - 4 );
@@ -127,11 +129,10 @@ static bool Equal( const PbChar *a, const PbChar *b, int64_t length )
 PbString *KnownToken( const PbChar *chs, int64_t length )
 {
     if( length == 0 || length > longestKnownToken ) return nullptr;
-    for( size_t slot = FirstSlot( chs, size_t( length ) ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
-        const auto &known = strings[ slots[ slot ] ];
-        if( known.length == length && Equal( known.chs, chs, length ) ) return known.Get();
-    }
-    return nullptr;
+    const uint8_t slot = slots[ SlotOf( chs, size_t( length ) ) ];
+    if( slot == none ) return nullptr;
+    const auto &known = strings[ slot ];
+    return known.length == length && Equal( known.chs, chs, length ) ? known.Get() : nullptr;
 }
 
 PbString *TokenFromChars( const PbChar *chs, int64_t length )
