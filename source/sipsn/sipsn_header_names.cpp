@@ -59,7 +59,7 @@ template< class Ch > static constexpr uint8_t Lower( Ch ch )
     return uint32_t( ch ) < 256 ? lowerToken[ uint32_t( ch ) ] : uint8_t( 0 );
 }
 
-// A name in lower case, zeros behind it.
+// A name in lower case, zeros behind it. What is not of a token is 0 in lower case, too: equal lengths tell them apart.
 using LowerName = std::array< uint8_t, longestHeaderName >;
 
 static constexpr auto lowerNames = [] {
@@ -112,10 +112,11 @@ template< class Ch > static int64_t NumberOf( const Ch *name, int64_t length )
     }
     if( length < 1 || length >= int64_t( longestHeaderName ) ) return -1;
     for( size_t slot = FirstSlot( name, size_t( length ) ); slots[ slot ] != none; slot = ( slot + 1 ) % slotCount ) {
-        const LowerName &known = lowerNames[ slots[ slot ] ];
-        int64_t          at    = 0;
-        while( at < length && Lower( name[ at ] ) == known[ size_t( at ) ] ) ++at;
-        if( at == length && known[ size_t( length ) ] == 0 ) return slots[ slot ];
+        const size_t number = slots[ slot ];
+        if( names[ number ].size() != size_t( length ) ) continue;
+        int64_t left = length;
+        while( left > 0 && Lower( name[ left - 1 ] ) == lowerNames[ number ][ size_t( left - 1 ) ] ) --left;
+        if( left == 0 ) return int64_t( number );
     }
     return -1;
 }

@@ -89,6 +89,9 @@ TEST( SipsnMessageFragmentDecode, Fields )
     for( const Case &test : fields ) Check( test );
     pb::Ref frag = Fragment( std::string_view{ "Q: a\0b\r\n", 8 } );
     EXPECT_EQ( Lines( frag.Get(), "Q" ), std::string( "a\0b", 3 ) );
+    for( const char *name : { "Replaces", "Flow-Timer", "Service-Interact-Info" } )
+        for( size_t zeros = 1; zeros < 16; ++zeros )
+            EXPECT_FALSE( Fragment( name + std::string( zeros, '\0' ) + ": " + std::string( 32, '1' ) ) ) << name;
 }
 
 // Names are read from bytes in blocks where there are enough, and one by one where not; from a string always one by

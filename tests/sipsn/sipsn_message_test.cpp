@@ -161,6 +161,9 @@ TEST( SipsnMessageDeathTest, SettersWantTheRightKindAndValidValues )
     EXPECT_DEATH( sipsnMessageFragmentSetVersion( empty.Slot(), version.Get() ), "\"\\(\\*frag\\)->version\"" );
     EXPECT_DEATH( sipsnMessageFragmentCreateResponse( version.Get(), 99 ), "\"sipsnStatusCodeOk\\( sc \\)\"" );
     EXPECT_DEATH( sipsnMessageFragmentSetHeader( request.Slot(), nullptr ), "\"header\"" );
+    for( const char *known : { "Contact(", "Contact:", "History-Info==", "Flow-Timer   " } ) // but for what follows
+        EXPECT_DEATH( sipsnMessageFragmentHasHeaderCstr( request.Get(), known, -1 ),
+                      "\"sipsnMessageHeaderNameOk\\( name \\)\"" );
     EXPECT_DEATH( sipsnMessageFragmentTryDecode( nullptr ), "\"buf\"" );
 }
 
