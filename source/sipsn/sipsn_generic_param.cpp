@@ -169,7 +169,10 @@ template< class Link > SipsnGenericParam *sipsn::TakeGenericParam( BasicCursor< 
         value = TakeValue( in, &type );
         if( !value ) return nullptr;
     }
-    return CreateOwning( LowerFromChars( name.chs, name.length ), type, value );
+    // A token is ASCII, and those that are constants seldom name a parameter.
+    PbString *lower = pb___StringCreateUninitialized( name.length );
+    pb::CopyInOtherCase< 'A' >( lower->chs, name.chs, name.length );
+    return CreateOwning( lower, type, value );
 }
 
 template SipsnGenericParam *sipsn::TakeGenericParam( Cursor & );
