@@ -26,7 +26,13 @@ static constexpr std::string_view texts[] = {
     "REGISTER",
     "SUBSCRIBE",
     "UPDATE",
-    // Transports, in the case in which they are kept
+    // Transports, as they are written and as they are kept
+    "SCTP",
+    "TCP",
+    "TLS",
+    "UDP",
+    "WS",
+    "WSS",
     "sctp",
     "tcp",
     "tls",
@@ -101,7 +107,7 @@ static constexpr size_t                        slotCount = 256;
 template< class Text > static constexpr size_t SlotOf( const Text &text, size_t length )
 {
     const auto at = [ & ]( size_t n ) { return size_t( uint32_t( text[ n ] ) ); };
-    return ( length * 35 + at( 0 ) * 53 + at( length / 2 ) * 55 + at( length - 1 ) * 12 ) % slotCount;
+    return ( length * 60 + at( 0 ) * 242 + at( length / 2 ) * 126 + at( length - 1 ) * 199 ) % slotCount;
 }
 
 static constexpr auto slots = [] {
