@@ -212,15 +212,16 @@ bool Refuse( Refusal *refusal, Refusal::Part part, Bytes where )
     return false;
 }
 
+// The fields behind the usual ones, of which none is at the front.
 bool TryDecodeFields( DecodedFields &fields, Bytes lines, Refusal *refusal )
 {
     for( ;; ) {
-        TakeUsualFields( fields, lines );
         FieldCutter field{ lines };
         if( !field.Next() ) return true;
         if( !TryDecodeField( fields, field.Text() ) ) return Refuse( refusal, Refusal::field, field.Lines() );
         if( PbBuffer *copy = field.DetachCopy() ) fields.Keep( copy );
         lines = field.Rest();
+        TakeUsualFields( fields, lines );
     }
 }
 
@@ -257,10 +258,9 @@ public:
 
     Bytes Rest() const { return rest_; }
 
-    // The fields that are left; the fragment, or null.
+    // The fields that are left; the fragment, or null. *contentLength, which may be null, stays where there is none.
     SipsnMessageFragment *TryTakeRest( Bytes fields, int64_t *contentLength )
     {
-        if( contentLength ) *contentLength = -1;
         if( !TryDecodeFields( fields_, fields, refusal_ ) ) return nullptr;
         fields_.MoveToFragment();
         if( !contentLength || TryReadContentLength( frag_.Get(), contentLength ) ) return frag_.Detach();
@@ -327,7 +327,7 @@ SipsnMessageFragment *sipsnMessageFragmentTryDecode( PbBuffer *buf )
     const int64_t bodyBegin = headerEnd < 0 ? all.length : headerEnd + 4;
     const int64_t headEnd   = headerEnd < 0 ? all.length : headerEnd + 2;
 
-    int64_t contentLength;
+    int64_t contentLength = -1;
     pb::Ref frag{ decoder.TryTakeRest( decoder.Rest().First( headEnd - taken ), &contentLength ) };
     if( !frag ) return nullptr;
 
